@@ -1,0 +1,53 @@
+#include "Core/Common/OrvLogging.h"
+
+#include <cstdio>
+
+void OrvLogf(IOrvLog& Log, EOrvLogCategory Category, EOrvLogVerbosity Verbosity, const char* Format, ...)
+{
+    va_list Args;
+    va_start(Args, Format);
+    va_list Copy;
+    va_copy(Copy, Args);
+    const int Needed = std::vsnprintf(nullptr, 0, Format, Copy);
+    va_end(Copy);
+    std::string Message;
+    if (Needed > 0)
+    {
+        Message.resize(static_cast<std::size_t>(Needed));
+        std::vsnprintf(Message.data(), Message.size() + 1, Format, Args);
+    }
+    va_end(Args);
+    Log.Log(Category, Verbosity, Message);
+}
+
+const char* OrvLogCategoryName(EOrvLogCategory Category)
+{
+    switch (Category)
+    {
+    case EOrvLogCategory::LogOrvMcp:
+        return "LogOrvMcp";
+    case EOrvLogCategory::LogOrvMcpHandler:
+        return "LogOrvMcpHandler";
+    case EOrvLogCategory::LogTemp:
+        return "LogTemp";
+    }
+    return "LogTemp";
+}
+
+const char* OrvLogVerbosityName(EOrvLogVerbosity Verbosity)
+{
+    switch (Verbosity)
+    {
+    case EOrvLogVerbosity::Error:
+        return "Error";
+    case EOrvLogVerbosity::Warning:
+        return "Warning";
+    case EOrvLogVerbosity::Display:
+        return "Display";
+    case EOrvLogVerbosity::Log:
+        return "Log";
+    case EOrvLogVerbosity::Verbose:
+        return "Verbose";
+    }
+    return "Log";
+}
