@@ -1,5 +1,5 @@
-#include "Core/Json/OrvJson.h"
 #include "Core/Json/OrvJsonWriter.h"
+#include "Core/Json/OrvJson.h"
 
 #include <gtest/gtest.h>
 
@@ -22,7 +22,8 @@ TEST(FOrvJsonWriterTest, PrettyLayoutMatchesTheEngineWriter)
               "{\r\n\t\"jsonrpc\": \"2.0\",\r\n\t\"id\": 1,\r\n\t\"result\":\r\n\t{\r\n\t}\r\n}");
     EXPECT_EQ(WritePretty(R"({"location":[1,2.5,-3],"empty":[]})"),
               "{\r\n\t\"location\": [ 1, 2.5, -3 ],\r\n\t\"empty\": []\r\n}");
-    EXPECT_EQ(WritePretty(R"({"assets":["a","b"]})"), "{\r\n\t\"assets\": [\r\n\t\t\"a\",\r\n\t\t\"b\"\r\n\t]\r\n}");
+    EXPECT_EQ(WritePretty(R"({"assets":["a","b"]})"),
+              "{\r\n\t\"assets\": [\r\n\t\t\"a\",\r\n\t\t\"b\"\r\n\t]\r\n}");
     EXPECT_EQ(WritePretty(R"({"content":[{"type":"text"}]})"),
               "{\r\n\t\"content\": [\r\n\t\t{\r\n\t\t\t\"type\": \"text\"\r\n\t\t}\r\n\t]\r\n}");
 }

@@ -12,7 +12,8 @@ struct FOrvJson
     /** Parses Text into Out; true only when it is valid JSON whose root is an object. */
     static bool ParseObject(std::string_view Text, rapidjson::Document& Out);
 
-    /** The member named Key of an object value (first one when repeated); null when absent or not an object. */
+    /** The member named Key of an object value (first one when repeated); null when absent or not an object.
+     */
     static const rapidjson::Value* FindField(const rapidjson::Value& Object, std::string_view Key);
 
     /** The member as an object; null when absent or of another type. */

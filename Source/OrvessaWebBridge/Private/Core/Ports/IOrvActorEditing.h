@@ -14,7 +14,8 @@ class IOrvActorEditing
 public:
     virtual ~IOrvActorEditing() = default;
 
-    /** World->SpawnActor<AStaticMeshActor>(Location, Rotation); a null ref when it fails or there is no world. */
+    /** World->SpawnActor<AStaticMeshActor>(Location, Rotation); a null ref when it fails or there is no
+     * world. */
     virtual FOrvActorRef SpawnStaticMeshActor(const FOrvVector& Location, const FOrvRotator& Rotation) = 0;
 
     /** Actor->Modify(): records the actor's state in the open transaction. */

@@ -14,7 +14,8 @@ public:
     virtual ~IOrvAssetRegistry() = default;
 
     /** GetAssetsByPath(PackagePath, bRecursive): every asset under the path, in registry order. */
-    virtual std::vector<FOrvAssetData> GetAssetsByPath(std::string_view PackagePath, bool bRecursive) const = 0;
+    virtual std::vector<FOrvAssetData> GetAssetsByPath(std::string_view PackagePath,
+                                                       bool bRecursive) const = 0;
 
     /** StaticLoadObject(UStaticMesh, no outer, ObjectPath) without warnings; null when it loads nothing. */
     virtual FOrvMeshRef LoadStaticMesh(std::string_view ObjectPath) = 0;

@@ -23,7 +23,8 @@ struct FOrvCookie
  */
 using FOrvApiCallback = std::function<void(bool bSuccess, std::shared_ptr<const rapidjson::Document> Answer)>;
 
-/** @brief The catalogue service client of the core module (UApiWrapper). Completions arrive on the game thread. */
+/** @brief The catalogue service client of the core module (UApiWrapper). Completions arrive on the game
+ * thread. */
 class IOrvCatalogApi
 {
 public:

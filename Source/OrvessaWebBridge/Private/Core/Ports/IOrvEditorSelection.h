@@ -2,7 +2,8 @@
 
 #include "Core/Common/OrvTypes.h"
 
-/** @brief The editor's actor selection (GEditor SelectNone / SelectActor / NoteSelectionChange). Game thread. */
+/** @brief The editor's actor selection (GEditor SelectNone / SelectActor / NoteSelectionChange). Game thread.
+ */
 class IOrvEditorSelection
 {
 public:

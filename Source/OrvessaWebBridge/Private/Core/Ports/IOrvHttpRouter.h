@@ -36,7 +36,8 @@ struct FOrvHttpResponse
 using FOrvHttpResultCallback = std::function<void(std::unique_ptr<FOrvHttpResponse> Response)>;
 
 /** @brief Route handler: returns true when it handled the request (and will call the callback once). */
-using FOrvHttpRequestHandler = std::function<bool(const FOrvHttpRequest& Request, const FOrvHttpResultCallback& OnComplete)>;
+using FOrvHttpRequestHandler =
+    std::function<bool(const FOrvHttpRequest& Request, const FOrvHttpResultCallback& OnComplete)>;
 
 /** @brief Handle of one bound route; zero when binding failed. */
 struct FOrvHttpRouteHandle
@@ -53,13 +54,15 @@ public:
     virtual ~IOrvHttpRouter() = default;
 
     /** Binds a handler to a path and verb; an invalid handle when that pair is already bound. */
-    virtual FOrvHttpRouteHandle BindRoute(std::string_view Path, EOrvHttpVerb Verb, FOrvHttpRequestHandler Handler) = 0;
+    virtual FOrvHttpRouteHandle BindRoute(std::string_view Path, EOrvHttpVerb Verb,
+                                          FOrvHttpRequestHandler Handler) = 0;
 
     /** Unbinds a route; safe with an invalid or already unbound handle. */
     virtual void UnbindRoute(FOrvHttpRouteHandle Handle) = 0;
 };
 
-/** @brief The HTTP server module: one router per port, listeners started and stopped together. Game thread. */
+/** @brief The HTTP server module: one router per port, listeners started and stopped together. Game thread.
+ */
 class IOrvHttpServerModule
 {
 public:

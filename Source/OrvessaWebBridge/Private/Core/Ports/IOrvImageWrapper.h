@@ -11,7 +11,8 @@ public:
     virtual ~IOrvImageWrapper() = default;
 
     /** SetRaw of 8-bit BGRA pixels; Data must stay alive until GetCompressed returns. */
-    virtual bool SetRaw(const void* Data, std::int64_t SizeInBytes, std::int32_t Width, std::int32_t Height) = 0;
+    virtual bool SetRaw(const void* Data, std::int64_t SizeInBytes, std::int32_t Width,
+                        std::int32_t Height) = 0;
 
     /** The compressed image at Quality (1-100); empty on failure; valid until the next call. */
     virtual std::span<const std::uint8_t> GetCompressed(std::int32_t Quality) = 0;

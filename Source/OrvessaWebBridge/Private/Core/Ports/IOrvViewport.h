@@ -8,8 +8,8 @@
 /** @brief What the current level editing viewport client looks through. */
 struct FOrvViewInfo
 {
-    FOrvVector Location;   ///< from the perspective or orthographic view transform, as IsPerspective() says
-    FOrvRotator Rotation;  ///< likewise
+    FOrvVector Location;  ///< from the perspective or orthographic view transform, as IsPerspective() says
+    FOrvRotator Rotation; ///< likewise
     double FieldOfView = 90.0; ///< the client's ViewFOV, degrees
 };
 
