@@ -5,7 +5,7 @@ cd "$(dirname "$0")/.."
 unformatted=()
 while IFS= read -r file; do
     clang-format --dry-run -Werror "$file" >/dev/null 2>&1 || unformatted+=("$file")
-done < <(git ls-files '*.h' '*.cpp')
+done < <(git ls-files '*.h' '*.cpp' 2>/dev/null || find Source Host Tests Benchmarks -name '*.h' -o -name '*.cpp')
 if [ ${#unformatted[@]} -gt 0 ]; then
     echo "Not formatted as .clang-format says (fix with: clang-format -i FILE):"
     printf '    %s\n' "${unformatted[@]}"
