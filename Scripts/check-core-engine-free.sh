@@ -11,10 +11,11 @@ engine_includes=$(grep -rnE '#include\s*[<"](CoreMinimal\.h|Engine/|Editor\.h|Un
 non_core_includes=$(grep -rnE '#include\s*"' "$core" | grep -vE '#include\s*"Core/')
 [ -n "$non_core_includes" ] && report "Quoted includes from outside the core:" "$non_core_includes"
 
-# Code only: comments may name the engine calls that a port stands for.
+# Code only: comments may name the engine calls that a port stands for, and string literals hold
+# user-facing sentences ("... and try again.").
 code_grep() {
     find "$core" -name '*.h' -o -name '*.cpp' | sort | while read -r file; do
-        sed -E 's://.*$::; s:^\s*/?\*.*$::' "$file" | grep -nwE "$1" | sed "s|^|$file:|"
+        sed -E 's:"([^"\\]|\\.)*":"":g; s://.*$::; s:^\s*/?\*.*$::' "$file" | grep -nwE "$1" | sed "s|^|$file:|"
     done
 }
 engine_names=$(code_grep 'UE_LOG|TEXT\(|FString|FName|FText|FVector|TArray|TSharedPtr|TSharedRef|UObject|GEditor')
