@@ -1,0 +1,213 @@
+#include "Core/Mcp/OrvMcpHandler.h"
+#include "Tests/Support/OrvMcpTestRequests.h"
+#include "Tests/Support/OrvNullEditorPorts.h"
+
+#include <gtest/gtest.h>
+#include <rapidjson/document.h>
+
+#include <cctype>
+#include <string>
+#include <vector>
+
+namespace
+{
+    constexpr const char* ParseErrorEnvelope =
+        R"({"jsonrpc":"2.0","id":null,"error":{"code":-32700,"message":"Parse error: invalid JSON"}})";
+
+    std::string UnknownToolText(const std::string& Name)
+    {
+        return "Unknown tool: " + Name +
+               ". (Catalog tools are served by the ORVESSA Hub — make sure 'orvessa' npm package is "
+               "configured "
+               "in your MCP client.)";
+    }
+
+    class FOrvMcpHandlerTest : public ::testing::Test
+    {
+    protected:
+        /** Sends Body and returns the one response, condensed; fails the test unless exactly one came. */
+        std::string Call(std::string_view Body)
+        {
+            const std::vector<std::string> Responses = OrvSendMcpRequest(Handler, Editor.GameThread, Body);
+            EXPECT_EQ(Responses.size(), 1u) << "request: " << Body;
+            return Responses.empty() ? std::string() : OrvCondensedJson(Responses.front());
+        }
+
+        std::string CallExact(std::string_view Body)
+        {
+            const std::vector<std::string> Responses = OrvSendMcpRequest(Handler, Editor.GameThread, Body);
+            EXPECT_EQ(Responses.size(), 1u) << "request: " << Body;
+            return Responses.empty() ? std::string() : Responses.front();
+        }
+
+        FOrvNullEditorPorts Editor;
+        FOrvMcpHandler Handler{Editor.Ports()};
+    };
+} // namespace
+
+TEST_F(FOrvMcpHandlerTest, BodiesThatAreNotAJsonObjectGetTheParseErrorWithNullId)
+{
+    for (const char* Body :
+         {"{", "", "[1,2]", R"([{"method":"ping"}])", "\"ping\"", "42", R"({"method":"ping"} x)"})
+    {
+        EXPECT_EQ(Call(Body), ParseErrorEnvelope) << "body: " << Body;
+    }
+}
+
+TEST_F(FOrvMcpHandlerTest, RequestIdComesBackUnchangedWhateverItsType)
+{
+    const std::vector<std::string> Ids = {R"("a1")",
+                                          "7",
+                                          "-3",
+                                          "1.5",
+                                          "12345678901234567890",
+                                          "true",
+                                          "null",
+                                          R"({"k":[1,"x"]})",
+                                          "[]",
+                                          R"("\"quoted\" \\ ü")"};
+    for (const std::string& Id : Ids)
+    {
+        EXPECT_EQ(Call(R"({"jsonrpc":"2.0","id":)" + Id + R"(,"method":"ping"})"),
+                  R"({"jsonrpc":"2.0","id":)" + Id + R"(,"result":{}})");
+    }
+    EXPECT_EQ(Call(R"({"method":"ping"})"), R"({"jsonrpc":"2.0","id":null,"result":{}})");
+}
+
+TEST_F(FOrvMcpHandlerTest, NotificationIsAnsweredLikeARequestWithNullId)
+{
+    EXPECT_EQ(Call(R"({"jsonrpc":"2.0","method":"notifications/initialized"})"),
+              R"({"jsonrpc":"2.0","id":null,"result":{}})");
+}
+
+TEST_F(FOrvMcpHandlerTest, MethodNamesIgnoreLetterCaseAndJsonRpcVersionIsNotChecked)
+{
+    EXPECT_EQ(Call(R"({"id":1,"method":"PING"})"), R"({"jsonrpc":"2.0","id":1,"result":{}})");
+    EXPECT_EQ(Call(R"({"jsonrpc":"1.0","id":2,"method":"Notifications/Initialized"})"),
+              R"({"jsonrpc":"2.0","id":2,"result":{}})");
+    EXPECT_EQ(Call(R"({"id":3,"method":"TOOLS/LIST"})"), Call(R"({"id":3,"method":"tools/list"})"));
+    EXPECT_EQ(Call(R"({"id":4,"method":"Initialize"})"), Call(R"({"id":4,"method":"initialize"})"));
+}
+
+TEST_F(FOrvMcpHandlerTest, InitializeDeclaresOnlyToolsAndNamesTheServer)
+{
+    // Whatever version the client asks for, the server answers with its own.
+    EXPECT_EQ(
+        Call(R"({"jsonrpc":"2.0","id":0,"method":"initialize","params":{"protocolVersion":"2024-11-05"}})"),
+        R"({"jsonrpc":"2.0","id":0,"result":{"protocolVersion":"2025-06-18",)"
+        R"("capabilities":{"tools":{"listChanged":false}},)"
+        R"("serverInfo":{"name":"ORVESSA","version":"1.1.0",)"
+        R"("iconUrl":"https://orvessa.com/img/logo-square.svg",)"
+        R"("homepage":"https://orvessa.com/integrations/mcp","vendor":"ORVESSA Srl"}}})");
+}
+
+TEST_F(FOrvMcpHandlerTest, UnknownOrMissingMethodIsMethodNotFoundNamingTheMethod)
+{
+    EXPECT_EQ(Call(R"({"id":1,"method":"foo"})"),
+              R"({"jsonrpc":"2.0","id":1,"error":{"code":-32601,"message":"Method not found: foo"}})");
+    EXPECT_EQ(Call(R"({"id":"x"})"),
+              R"({"jsonrpc":"2.0","id":"x","error":{"code":-32601,"message":"Method not found: "}})");
+    EXPECT_EQ(Call(R"({"id":2,"method":7})"),
+              R"({"jsonrpc":"2.0","id":2,"error":{"code":-32601,"message":"Method not found: "}})");
+    EXPECT_EQ(
+        Call(R"({"id":3,"method":"resources/list"})"),
+        R"({"jsonrpc":"2.0","id":3,"error":{"code":-32601,"message":"Method not found: resources/list"}})");
+}
+
+TEST_F(FOrvMcpHandlerTest, ToolsCallWithoutParamsOrToolNameIsInvalidParams)
+{
+    const std::string MissingParams =
+        R"({"jsonrpc":"2.0","id":5,"error":{"code":-32602,"message":"Missing params for tools/call"}})";
+    const std::string MissingName =
+        R"({"jsonrpc":"2.0","id":5,"error":{"code":-32602,"message":"Missing tool name"}})";
+
+    EXPECT_EQ(Call(R"({"id":5,"method":"tools/call"})"), MissingParams);
+    EXPECT_EQ(Call(R"({"id":5,"method":"tools/call","params":"ue_list_scene"})"), MissingParams);
+    EXPECT_EQ(Call(R"({"id":5,"method":"tools/call","params":null})"), MissingParams);
+    EXPECT_EQ(Call(R"({"id":5,"method":"tools/call","params":{}})"), MissingName);
+    EXPECT_EQ(Call(R"({"id":5,"method":"tools/call","params":{"name":null,"arguments":{}}})"), MissingName);
+    EXPECT_EQ(Call(R"({"id":5,"method":"tools/call","params":{"name":3}})"), MissingName);
+}
+
+TEST_F(FOrvMcpHandlerTest, UnknownToolIsAPlainTextResultPointingToTheHub)
+{
+    EXPECT_EQ(Call(R"({"id":9,"method":"tools/call","params":{"name":"ue_nope","arguments":{}}})"),
+              R"({"jsonrpc":"2.0","id":9,"result":{"content":[{"type":"text","text":")" +
+                  UnknownToolText("ue_nope") + R"("}]}})");
+
+    // The name is echoed as given, so it must come back escaped and the answer still parse.
+    const std::string Response = Call(R"({"id":10,"method":"tools/call","params":{"name":"a\"b\n"}})");
+    rapidjson::Document Parsed;
+    ASSERT_FALSE(Parsed.Parse(Response.c_str()).HasParseError()) << Response;
+    EXPECT_EQ(Parsed["result"]["content"][0]["text"].GetString(), UnknownToolText("a\"b\n"));
+    EXPECT_FALSE(Parsed["result"].HasMember("isError"));
+}
+
+TEST_F(FOrvMcpHandlerTest, EveryListedToolIsReachableByNameInAnyCaseWithOrWithoutArguments)
+{
+    rapidjson::Document List;
+    List.Parse(Call(R"({"id":1,"method":"tools/list"})").c_str());
+    ASSERT_TRUE(List.IsObject() && List["result"]["tools"].IsArray());
+
+    for (const rapidjson::Value& Tool : List["result"]["tools"].GetArray())
+    {
+        std::string Name = Tool["name"].GetString();
+        std::string Upper = Name;
+        for (char& Letter : Upper)
+        {
+            Letter = static_cast<char>(std::toupper(static_cast<unsigned char>(Letter)));
+        }
+        // Tools queue their editor work and answer later: the id must survive until then.
+        const std::vector<std::string> Calls = {
+            R"({"id":"late","method":"tools/call","params":{"name":")" + Name + R"("}})",
+            R"({"id":"late","method":"tools/call","params":{"name":")" + Upper + R"(","arguments":"x"}})",
+            R"({"id":"late","method":"tools/call","params":{"name":")" + Name + R"(","arguments":{}}})"};
+        for (const std::string& Body : Calls)
+        {
+            const std::string Response = Call(Body);
+            rapidjson::Document Parsed;
+            ASSERT_FALSE(Parsed.Parse(Response.c_str()).HasParseError()) << Response;
+            EXPECT_STREQ(Parsed["jsonrpc"].GetString(), "2.0");
+            EXPECT_TRUE(Parsed["id"].IsString() && std::string(Parsed["id"].GetString()) == "late")
+                << Response;
+            EXPECT_EQ(Response.find("Unknown tool"), std::string::npos) << Body << " -> " << Response;
+            EXPECT_EQ(Response.find("isError"), std::string::npos) << Response;
+        }
+    }
+}
+
+TEST_F(FOrvMcpHandlerTest, ResponsesAreLaidOutAsTheEnginePrettyWriterDoes)
+{
+    EXPECT_EQ(CallExact(R"({"jsonrpc":"2.0","id":"a1","method":"ping"})"),
+              "{\r\n\t\"jsonrpc\": \"2.0\",\r\n\t\"id\": \"a1\",\r\n\t\"result\":\r\n\t{\r\n\t}\r\n}");
+    EXPECT_EQ(
+        CallExact(R"({"id":1,"method":"foo"})"),
+        "{\r\n\t\"jsonrpc\": \"2.0\",\r\n\t\"id\": 1,\r\n\t\"error\":\r\n\t{\r\n\t\t\"code\": -32601,\r\n"
+        "\t\t\"message\": \"Method not found: foo\"\r\n\t}\r\n}");
+    EXPECT_EQ(CallExact(R"({"id":2,"method":"tools/call","params":{"name":"x"}})"),
+              "{\r\n\t\"jsonrpc\": \"2.0\",\r\n\t\"id\": 2,\r\n\t\"result\":\r\n\t{\r\n\t\t\"content\": [\r\n"
+              "\t\t\t{\r\n\t\t\t\t\"type\": \"text\",\r\n\t\t\t\t\"text\": \"" +
+                  UnknownToolText("x") + "\"\r\n\t\t\t}\r\n\t\t]\r\n\t}\r\n}");
+}
+
+TEST_F(FOrvMcpHandlerTest, ImageBlockCarriesTheBase64AsIsWithItsMimeType)
+{
+    rapidjson::Document Id;
+    Id.Parse("3");
+    const std::string Base64 = "/9j/4AAQSkZJRgABAQ+/==";
+    const std::string Envelope =
+        FOrvMcpHandler::MakeToolResultEnvelope(Id, FOrvMcpHandler::MakeContentImage(Base64, "image/jpeg"));
+    EXPECT_EQ(OrvCondensedJson(Envelope),
+              R"({"jsonrpc":"2.0","id":3,"result":{"content":[{"type":"image","data":")" + Base64 +
+                  R"(","mimeType":"image/jpeg"}]}})");
+    EXPECT_NE(Envelope.find("\t\t\t\t\"data\": \"" + Base64 + "\",\r\n"), std::string::npos) << Envelope;
+}
+
+TEST_F(FOrvMcpHandlerTest, RequestsWithoutAResponseCallbackAreStillHandled)
+{
+    Handler.HandleRequest("{", nullptr);
+    Handler.HandleRequest(R"({"id":1,"method":"ping"})", nullptr);
+    Handler.HandleRequest(R"({"id":2,"method":"tools/call","params":{"name":"ue_list_scene"}})", nullptr);
+    Editor.GameThread.RunPending();
+    EXPECT_EQ(Editor.GameThread.PendingCount(), 0u);
+}
