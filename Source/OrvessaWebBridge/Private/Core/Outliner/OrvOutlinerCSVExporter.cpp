@@ -1,0 +1,173 @@
+#include "Core/Outliner/OrvOutlinerCSVExporter.h"
+
+#include "Core/Common/OrvConstants.h"
+#include "Core/Common/OrvLogging.h"
+#include "Core/Common/OrvStrings.h"
+#include "Core/Outliner/OrvOutlinerTreeBuilder.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace
+{
+    constexpr std::string_view OrvCsvSeparatorLine = ",,,,,,,,,,\n";
+    constexpr std::string_view OrvCsvFallbackVersion = "0.6.0";
+
+    void OrvCsvAppendInteger(std::string& Out, std::int64_t Value)
+    {
+        char Buffer[24];
+        const auto Result = std::to_chars(Buffer, Buffer + sizeof(Buffer), Value);
+        Out.append(Buffer, Result.ptr);
+    }
+
+    // A header line "Label,value,,,,,,,,,,".
+    void OrvCsvAppendHeaderValue(std::string& Out, std::string_view Label, std::string_view EscapedValue)
+    {
+        Out.append(Label);
+        Out.append(EscapedValue);
+        Out.append(OrvCsvSeparatorLine);
+    }
+} // namespace
+
+std::string FOrvOutlinerCSVExporter::EscapeCSVField(std::string_view Field)
+{
+    std::string Out;
+    AppendEscapedField(Out, Field);
+    return Out;
+}
+
+void FOrvOutlinerCSVExporter::AppendEscapedField(std::string& Out, std::string_view Field)
+{
+    if (Field.find_first_of(",\"\n\r") == std::string_view::npos)
+    {
+        Out.append(Field);
+        return;
+    }
+    Out.push_back('"');
+    for (const char Character : Field)
+    {
+        if (Character == '"')
+        {
+            Out.push_back('"');
+        }
+        Out.push_back(Character);
+    }
+    Out.push_back('"');
+}
+
+std::string FOrvOutlinerCSVExporter::GenerateCSV(const FOrvSceneProductMap& Products,
+                                                 std::string_view ProjectName, std::string_view Revision,
+                                                 const IOrvEditorWorld& World,
+                                                 const IOrvEnvironment& Environment)
+{
+    std::vector<const FOrvSceneProduct*> Sorted;
+    Sorted.reserve(Products.Num());
+    std::size_t FieldBytes = 0;
+    for (const FOrvSceneProductPtr& Product : Products)
+    {
+        Sorted.push_back(Product.get());
+        FieldBytes += Product->Brand.size() + Product->Name.size() + Product->Collection.size() +
+                      Product->Designer.size() + Product->Category.size() + Product->Dimensions.size() +
+                      Product->Weight.size() + Product->Website.size() + Product->Description.size();
+    }
+    std::stable_sort(Sorted.begin(), Sorted.end(),
+                     [](const FOrvSceneProduct* A, const FOrvSceneProduct* B)
+                     {
+                         const int ByBrand = FOrvStrings::CompareIgnoreCase(A->Brand, B->Brand);
+                         return ByBrand != 0 ? ByBrand < 0 : FOrvStrings::LessIgnoreCase(A->Name, B->Name);
+                     });
+
+    std::string Out;
+    // Room for the fixed lines, each row's separators and quantity, and a little quoting.
+    Out.reserve(512 + ProjectName.size() + Revision.size() + FieldBytes + FieldBytes / 16 +
+                Sorted.size() * 24);
+
+    Out.append("ORVESSA - Product Schedule,,,,,,,,,,\n");
+    Out.append(OrvCsvSeparatorLine);
+    OrvCsvAppendHeaderValue(Out, "Project:,", EscapeCSVField(ProjectName));
+    OrvCsvAppendHeaderValue(Out, "Date:,", Environment.GetLocalDate());
+    OrvCsvAppendHeaderValue(Out, "Revision:,", EscapeCSVField(Revision));
+    Out.append(OrvCsvSeparatorLine);
+    Out.append("Prepared by:,,,,,,,,,,\n"
+               "Name:,,,,,,,,,,\n"
+               "Company:,,,,,,,,,,\n"
+               "Email:,,,,,,,,,,\n");
+    Out.append(OrvCsvSeparatorLine);
+    Out.append("FURNITURE SCHEDULE,,,,,,,,,,\n");
+    Out.append(
+        "Qty,Brand,Product,Collection,Designer,Category,Dimensions,Weight,Notes,Product URL,Description\n");
+
+    std::int64_t TotalItems = 0;
+    for (const FOrvSceneProduct* Product : Sorted)
+    {
+        const std::int32_t Quantity = FOrvOutlinerTreeBuilder::CountLiveActors(*Product, World);
+        TotalItems += Quantity;
+        OrvCsvAppendInteger(Out, Quantity);
+        Out.push_back(',');
+        for (const std::string* Field :
+             {&Product->Brand, &Product->Name, &Product->Collection, &Product->Designer, &Product->Category,
+              &Product->Dimensions, &Product->Weight})
+        {
+            AppendEscapedField(Out, *Field);
+            Out.push_back(',');
+        }
+        Out.push_back(','); // Notes, left for the user
+        AppendEscapedField(Out, Product->Website);
+        Out.push_back(',');
+        AppendEscapedField(Out, Product->Description);
+        Out.push_back('\n');
+    }
+
+    Out.append(OrvCsvSeparatorLine);
+    OrvCsvAppendInteger(Out, TotalItems);
+    Out.append(",TOTAL ITEMS,,,,,,,,,,\n");
+    Out.append(OrvCsvSeparatorLine);
+    const std::optional<std::string> Version = Environment.FindPluginVersion(FOrvConstants::PluginName);
+    Out.append("Generated by ORVESSA Plugin v");
+    Out.append(Version ? std::string_view(*Version) : OrvCsvFallbackVersion);
+    Out.append(OrvCsvSeparatorLine);
+    return Out;
+}
+
+bool FOrvOutlinerCSVExporter::SaveCSVToFile(std::string_view CSVContent, std::string_view DefaultFileName,
+                                            IOrvFiles& Files, const IOrvEnvironment& Environment,
+                                            IOrvLog& Log)
+{
+    if (!Files.IsDesktopPlatformAvailable())
+    {
+        OrvLogf(Log, EOrvLogCategory::LogTemp, EOrvLogVerbosity::Error,
+                "FOrvOutlinerCSVExporter: Desktop platform not available");
+        return false;
+    }
+
+    FOrvSaveDialogRequest Request;
+    Request.Title = "Save Product Schedule";
+    Request.DefaultPath = Environment.GetProjectDir();
+    Request.DefaultFile = std::string(DefaultFileName);
+    Request.FileTypes = "CSV Files (*.csv)|*.csv";
+    std::vector<std::string> ChosenFiles;
+    if (!Files.SaveFileDialog(Request, ChosenFiles) || ChosenFiles.empty())
+    {
+        OrvLogf(Log, EOrvLogCategory::LogTemp, EOrvLogVerbosity::Log,
+                "FOrvOutlinerCSVExporter: Save dialog cancelled");
+        return false;
+    }
+
+    std::string FilePath = ChosenFiles.front();
+    if (!FOrvStrings::EndsWithIgnoreCase(FilePath, ".csv"))
+    {
+        FilePath += ".csv";
+    }
+    if (!Files.SaveStringToFile(CSVContent, FilePath))
+    {
+        OrvLogf(Log, EOrvLogCategory::LogTemp, EOrvLogVerbosity::Error,
+                "FOrvOutlinerCSVExporter: Failed to save CSV to %s", FilePath.c_str());
+        return false;
+    }
+    OrvLogf(Log, EOrvLogCategory::LogTemp, EOrvLogVerbosity::Log, "FOrvOutlinerCSVExporter: Saved CSV to %s",
+            FilePath.c_str());
+    return true;
+}

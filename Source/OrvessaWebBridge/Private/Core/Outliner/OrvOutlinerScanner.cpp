@@ -1,0 +1,236 @@
+#include "Core/Outliner/OrvOutlinerScanner.h"
+
+#include "Core/Common/OrvLogging.h"
+#include "Core/Json/OrvJsonWriter.h"
+#include "Core/Outliner/OrvOutlinerBatchAnswer.h"
+#include "Core/Outliner/OrvOutlinerTreeBuilder.h"
+
+#include <optional>
+#include <unordered_map>
+#include <utility>
+
+FOrvOutlinerScanner::FOrvOutlinerScanner(const FOrvOutlinerScannerPorts& InPorts)
+    : Ports(InPorts), Lifetime(std::make_shared<FOrvOutlinerScanner*>(this))
+{
+}
+
+FOrvOutlinerScanner::~FOrvOutlinerScanner()
+{
+    CancelScan();
+}
+
+void FOrvOutlinerScanner::ScanScene(FOrvOutlinerScanComplete OnComplete)
+{
+    if (bIsScanning)
+    {
+        OrvLogf(Ports.Log, EOrvLogCategory::LogTemp, EOrvLogVerbosity::Warning,
+                "OrvOutlinerScanner: Scan already in progress");
+        return;
+    }
+    bIsScanning = true;
+    PendingOnComplete = std::move(OnComplete);
+    const std::uint64_t Serial = ++ScanSerial;
+    SceneProducts = ScanWorldForOrvProducts();
+
+    std::vector<std::string> IdsToFetch;
+    for (const FOrvSceneProductPtr& Product : SceneProducts)
+    {
+        const auto Cached = InfoCache.find(Product->ProductID);
+        if (Cached != InfoCache.end())
+        {
+            Product->SetInfo(Cached->second);
+        }
+        else
+        {
+            IdsToFetch.push_back(Product->ProductID);
+        }
+    }
+
+    if (IdsToFetch.empty())
+    {
+        FinishScan(Serial);
+        return;
+    }
+    FetchProductInfoFromAPI(IdsToFetch, [this, Serial](bool) { FinishScan(Serial); });
+}
+
+void FOrvOutlinerScanner::FinishScan(std::uint64_t Serial)
+{
+    if (!bIsScanning || Serial != ScanSerial)
+    {
+        return;
+    }
+    const FOrvOutlinerTreeItems RootItems = BuildTreeItems(SceneProducts);
+    bIsScanning = false;
+    // Taken out first: the delegate may start the next scan, which sets a new one.
+    FOrvOutlinerScanComplete OnComplete = std::move(PendingOnComplete);
+    PendingOnComplete = nullptr;
+    if (OnComplete)
+    {
+        OnComplete(RootItems);
+    }
+}
+
+void FOrvOutlinerScanner::CancelScan()
+{
+    bIsScanning = false;
+    PendingOnComplete = nullptr;
+}
+
+void FOrvOutlinerScanner::ClearCache()
+{
+    InfoCache.clear();
+}
+
+FOrvSceneProductMap FOrvOutlinerScanner::ScanWorldForOrvProducts()
+{
+    TotalActorCount = 0;
+    FOrvSceneProductMap Products;
+    if (!Ports.World.HasEditorWorld())
+    {
+        OrvLogf(Ports.Log, EOrvLogCategory::LogTemp, EOrvLogVerbosity::Warning,
+                "OrvOutlinerScanner: No world available");
+        return Products;
+    }
+
+    // Many actors share few meshes: ask each mesh for its tag once per scan.
+    std::unordered_map<std::uint64_t, std::optional<std::string>> ProductIdByMesh;
+    const auto FindProductId = [&](FOrvMeshRef Mesh) -> const std::optional<std::string>&
+    {
+        const auto [Found, bInserted] = ProductIdByMesh.try_emplace(Mesh.Value);
+        if (bInserted)
+        {
+            std::optional<FOrvProductTag> Tag = Ports.Meshes.GetProductTag(Mesh);
+            if (Tag && Tag->bIsValid)
+            {
+                Found->second = std::move(Tag->ProductID);
+            }
+        }
+        return Found->second;
+    };
+
+    for (const FOrvActorRef Actor : Ports.World.GetActors())
+    {
+        for (const FOrvMeshRef Mesh : Ports.World.GetStaticMeshComponents(Actor))
+        {
+            if (!Mesh)
+            {
+                continue;
+            }
+            const std::optional<std::string>& ProductId = FindProductId(Mesh);
+            if (!ProductId)
+            {
+                continue;
+            }
+            if (FOrvSceneProductPtr Existing = Products.Find(*ProductId))
+            {
+                Existing->Actors.push_back(Actor);
+            }
+            else
+            {
+                auto Product = std::make_shared<FOrvSceneProduct>();
+                Product->ProductID = *ProductId;
+                Product->Mesh = Mesh;
+                Product->Actors.push_back(Actor);
+                Products.Add(std::move(Product));
+            }
+            ++TotalActorCount;
+            break;
+        }
+    }
+
+    OrvLogf(Ports.Log, EOrvLogCategory::LogTemp, EOrvLogVerbosity::Log,
+            "OrvOutlinerScanner: Found %d unique products, %d total actors", static_cast<int>(Products.Num()),
+            static_cast<int>(TotalActorCount));
+    return Products;
+}
+
+void FOrvOutlinerScanner::FetchProductInfoFromAPI(const std::vector<std::string>& ProductIds,
+                                                  std::function<void(bool)> OnComplete)
+{
+    if (ProductIds.empty())
+    {
+        OnComplete(true);
+        return;
+    }
+    OrvLogf(Ports.Log, EOrvLogCategory::LogTemp, EOrvLogVerbosity::Log,
+            "OrvOutlinerScanner: Fetching info for %d products from API",
+            static_cast<int>(ProductIds.size()));
+
+    std::string Body;
+    FOrvJsonWriter Writer(Body, EOrvJsonStyle::Condensed);
+    Writer.BeginObject();
+    Writer.BeginArray("product_ids");
+    for (const std::string& Id : ProductIds)
+    {
+        Writer.String(Id);
+    }
+    Writer.EndArray();
+    Writer.EndObject();
+
+    std::weak_ptr<FOrvOutlinerScanner*> Alive = Lifetime;
+    Ports.Api.Post("/orvvault/products/batch", std::move(Body),
+                   [Alive, ProductIds, OnComplete = std::move(OnComplete)](
+                       bool bSuccess, std::shared_ptr<const rapidjson::Document> Answer)
+                   {
+                       if (const std::shared_ptr<FOrvOutlinerScanner*> Scanner = Alive.lock())
+                       {
+                           (*Scanner)->ApplyBatchAnswer(ProductIds, bSuccess, Answer.get(), OnComplete);
+                       }
+                   });
+}
+
+void FOrvOutlinerScanner::ApplyBatchAnswer(const std::vector<std::string>& ProductIds, bool bSuccess,
+                                           const rapidjson::Value* Answer,
+                                           const std::function<void(bool)>& OnComplete)
+{
+    FOrvOutlinerBatchAnswer Read = FOrvOutlinerBatchAnswer::Read(bSuccess, Answer);
+    switch (Read.Outcome)
+    {
+    case EOrvBatchAnswerOutcome::RequestFailed:
+        OrvLogf(Ports.Log, EOrvLogCategory::LogTemp, EOrvLogVerbosity::Warning,
+                "OrvOutlinerScanner: API request failed");
+        for (const std::string& Id : ProductIds)
+        {
+            StoreInfo(FOrvProductInfo::MakePlaceholder(Id));
+        }
+        OnComplete(false);
+        return;
+    case EOrvBatchAnswerOutcome::StatusFalse:
+        OrvLogf(Ports.Log, EOrvLogCategory::LogTemp, EOrvLogVerbosity::Warning,
+                "OrvOutlinerScanner: API returned status=false");
+        OnComplete(false);
+        return;
+    case EOrvBatchAnswerOutcome::Answered:
+        break;
+    }
+
+    for (const FOrvProductInfo& Info : Read.Products)
+    {
+        StoreInfo(Info);
+        OrvLogf(Ports.Log, EOrvLogCategory::LogTemp, EOrvLogVerbosity::Verbose,
+                "OrvOutlinerScanner: Cached product %s: %s %s (%s / %s)", Info.ProductID.c_str(),
+                Info.Brand.c_str(), Info.Name.c_str(), Info.CategoryT2.c_str(), Info.Category.c_str());
+    }
+    for (const std::string& Id : Read.Missing)
+    {
+        StoreInfo(FOrvProductInfo::MakePlaceholder(Id));
+        OrvLogf(Ports.Log, EOrvLogCategory::LogTemp, EOrvLogVerbosity::Warning,
+                "OrvOutlinerScanner: Product not found in API: %s", Id.c_str());
+    }
+    OnComplete(true);
+}
+
+void FOrvOutlinerScanner::StoreInfo(const FOrvProductInfo& Info)
+{
+    InfoCache.insert_or_assign(Info.ProductID, Info);
+    if (const FOrvSceneProductPtr Product = SceneProducts.Find(Info.ProductID))
+    {
+        Product->SetInfo(Info);
+    }
+}
+
+FOrvOutlinerTreeItems FOrvOutlinerScanner::BuildTreeItems(const FOrvSceneProductMap& Products) const
+{
+    return FOrvOutlinerTreeBuilder::Build(Products, Ports.World);
+}
