@@ -1,0 +1,239 @@
+#include "Core/Mcp/OrvMcpServer.h"
+#include "Core/Mcp/OrvMcpHandler.h"
+#include "Tests/Support/OrvFakeHttpServer.h"
+#include "Tests/Support/OrvMcpTestRequests.h"
+#include "Tests/Support/OrvNullEditorPorts.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace
+{
+    using FHeaders = std::vector<std::pair<std::string, std::string>>;
+
+    const FHeaders AnyOrigin = {{"Access-Control-Allow-Origin", "*"}};
+
+    class FOrvMcpServerTest : public ::testing::Test
+    {
+    protected:
+        FOrvMcpServer MakeServer()
+        {
+            return FOrvMcpServer(Http, Log,
+                                 [this]() -> FOrvMcpHandler&
+                                 {
+                                     if (!SharedHandler)
+                                     {
+                                         SharedHandler = std::make_unique<FOrvMcpHandler>(Editor.Ports());
+                                         ++HandlersMade;
+                                     }
+                                     return *SharedHandler;
+                                 });
+        }
+
+        FOrvFakeHttpRouter& Router()
+        {
+            FOrvFakeHttpRouter* Found = Http.FindRouter(30011);
+            EXPECT_NE(Found, nullptr);
+            static FOrvFakeHttpRouter None;
+            return Found ? *Found : None;
+        }
+
+        /** Posts Body and returns the single response (after the game thread ran), or an empty one. */
+        FOrvHttpResponse Post(std::string_view Path, std::string Body)
+        {
+            const FOrvFakeHttpExchange Exchange = Router().Send(EOrvHttpVerb::Post, Path, std::move(Body));
+            EXPECT_TRUE(Exchange.bRouted && Exchange.bHandled) << Path;
+            Editor.GameThread.RunPending();
+            EXPECT_EQ(Exchange.Responses->size(), 1u) << Path;
+            return Exchange.Responses->empty() ? FOrvHttpResponse{} : Exchange.Responses->front();
+        }
+
+        FOrvFakeHttpServerModule Http;
+        FOrvRecordingLog Log;
+        FOrvNullEditorPorts Editor;
+        std::unique_ptr<FOrvMcpHandler> SharedHandler;
+        int HandlersMade = 0;
+        FOrvMcpServer Server = MakeServer();
+    };
+
+    std::vector<std::pair<std::string, EOrvHttpVerb>> BoundRoutes(const FOrvFakeHttpRouter& Router)
+    {
+        std::vector<std::pair<std::string, EOrvHttpVerb>> Routes;
+        for (const FOrvFakeHttpRouter::FRoute& Route : Router.Routes())
+        {
+            Routes.emplace_back(Route.Path, Route.Verb);
+        }
+        return Routes;
+    }
+} // namespace
+
+TEST_F(FOrvMcpServerTest, StartBindsTheFourRoutesInOrderAndAnnouncesTheUrl)
+{
+    ASSERT_TRUE(Server.Start(30011));
+    EXPECT_TRUE(Server.IsRunning());
+    EXPECT_EQ(Server.GetPort(), 30011u);
+    EXPECT_EQ(BoundRoutes(Router()), (std::vector<std::pair<std::string, EOrvHttpVerb>>{
+                                         {"/health", EOrvHttpVerb::Get},
+                                         {"/sse", EOrvHttpVerb::Get},
+                                         {"/sse", EOrvHttpVerb::Post},
+                                         {"/mcp", EOrvHttpVerb::Post},
+                                     }));
+    EXPECT_EQ(Http.StartCount, 1);
+    ASSERT_EQ(Log.Lines.size(), 1u);
+    EXPECT_EQ(Log.Lines[0].Category, EOrvLogCategory::LogOrvMcp);
+    EXPECT_EQ(Log.Lines[0].Verbosity, EOrvLogVerbosity::Log);
+    EXPECT_EQ(Log.Lines[0].Message, "Orv MCP: server listening on http://127.0.0.1:30011");
+}
+
+TEST_F(FOrvMcpServerTest, StartingTwiceBindsOnceAndKeepsTheFirstPort)
+{
+    ASSERT_TRUE(Server.Start(30011));
+    EXPECT_TRUE(Server.Start(40000));
+    EXPECT_EQ(Server.GetPort(), 30011u);
+    EXPECT_EQ(Http.RouterRequests, 1);
+    EXPECT_EQ(Http.FindRouter(40000), nullptr);
+    EXPECT_EQ(Router().Routes().size(), 4u);
+    EXPECT_EQ(Http.StartCount, 1);
+    EXPECT_EQ(Log.Count("Orv MCP: server listening on http://127.0.0.1:30011"), 1);
+}
+
+TEST_F(FOrvMcpServerTest, UnavailablePortFailsStartWithAWarningAndCanBeRetried)
+{
+    Http.bRefuseRouters = true;
+    EXPECT_FALSE(Server.Start(30011));
+    EXPECT_FALSE(Server.IsRunning());
+    EXPECT_EQ(Server.GetPort(), 0u);
+    EXPECT_EQ(Http.StartCount, 0);
+    ASSERT_EQ(Log.Lines.size(), 1u);
+    EXPECT_EQ(Log.Lines[0].Category, EOrvLogCategory::LogOrvMcp);
+    EXPECT_TRUE(
+        Log.Contains(EOrvLogVerbosity::Warning, "Orv MCP: failed to acquire HTTP router on port 30011"));
+
+    // Nothing was bound, so stopping the failed server must not stop other listeners either.
+    Server.Stop();
+    EXPECT_EQ(Http.StopCount, 0);
+
+    Http.bRefuseRouters = false;
+    EXPECT_TRUE(Server.Start(30011));
+    EXPECT_EQ(Router().Routes().size(), 4u);
+}
+
+TEST_F(FOrvMcpServerTest, StopUnbindsEveryRouteOnceAndOnlyARunningServerLogsIt)
+{
+    ASSERT_TRUE(Server.Start(30011));
+    Log.Lines.clear();
+    Server.Stop();
+    EXPECT_FALSE(Server.IsRunning());
+    EXPECT_EQ(Server.GetPort(), 0u);
+    EXPECT_TRUE(Router().Routes().empty());
+    EXPECT_EQ(Router().UnbindCount, 4);
+    EXPECT_EQ(Http.StopCount, 1);
+    ASSERT_EQ(Log.Lines.size(), 1u);
+    EXPECT_EQ(Log.Lines[0].Category, EOrvLogCategory::LogOrvMcp);
+    EXPECT_TRUE(Log.Contains(EOrvLogVerbosity::Log, "Orv MCP: server stopped"));
+
+    Server.Stop();
+    EXPECT_EQ(Router().UnbindCount, 4);
+    EXPECT_EQ(Http.StopCount, 1);
+    EXPECT_EQ(Log.Lines.size(), 1u);
+
+    // A stopped server starts again with fresh routes.
+    ASSERT_TRUE(Server.Start(30011));
+    EXPECT_EQ(Router().Routes().size(), 4u);
+}
+
+TEST_F(FOrvMcpServerTest, DestroyingARunningServerUnbindsItsRoutes)
+{
+    {
+        FOrvMcpServer Scoped = MakeServer();
+        ASSERT_TRUE(Scoped.Start(30011));
+    }
+    EXPECT_TRUE(Router().Routes().empty());
+    EXPECT_EQ(Http.StopCount, 1);
+    EXPECT_EQ(Log.Count("Orv MCP: server stopped"), 1);
+}
+
+TEST_F(FOrvMcpServerTest, HealthAnswersFixedJsonWithoutExtraHeaders)
+{
+    ASSERT_TRUE(Server.Start(30011));
+    const FOrvFakeHttpExchange Exchange = Router().Send(EOrvHttpVerb::Get, "/health");
+    EXPECT_TRUE(Exchange.bHandled);
+    ASSERT_EQ(Exchange.Responses->size(), 1u);
+    const FOrvHttpResponse& Response = Exchange.Responses->front();
+    EXPECT_EQ(Response.Code, 200);
+    EXPECT_EQ(Response.Body, R"({"status":"ok","service":"orvessa-ue-mcp"})");
+    EXPECT_EQ(Response.ContentType, "application/json");
+    EXPECT_TRUE(Response.Headers.empty());
+    EXPECT_EQ(HandlersMade, 0) << "the handler is made by the first JSON-RPC request, not by a probe";
+}
+
+TEST_F(FOrvMcpServerTest, SseGetAnswersOneEndpointEventAndIsCompleteAtOnce)
+{
+    ASSERT_TRUE(Server.Start(30011));
+    const FOrvFakeHttpExchange Exchange = Router().Send(EOrvHttpVerb::Get, "/sse");
+    EXPECT_TRUE(Exchange.bHandled);
+    ASSERT_EQ(Exchange.Responses->size(), 1u);
+    const FOrvHttpResponse& Response = Exchange.Responses->front();
+    EXPECT_EQ(Response.Code, 200);
+    EXPECT_EQ(Response.Body, "event: endpoint\ndata: /sse\n\n");
+    EXPECT_EQ(Response.ContentType, "text/event-stream");
+    EXPECT_EQ(Response.Headers,
+              (FHeaders{{"Cache-Control", "no-cache"}, {"Access-Control-Allow-Origin", "*"}}));
+}
+
+TEST_F(FOrvMcpServerTest, PostToMcpAndToSseGiveTheSameAnswerFromOneSharedHandler)
+{
+    ASSERT_TRUE(Server.Start(30011));
+    const std::string Body = R"({"jsonrpc":"2.0","id":"a1","method":"ping"})";
+    const FOrvHttpResponse FromMcp = Post("/mcp", Body);
+    const FOrvHttpResponse FromSse = Post("/sse", Body);
+
+    EXPECT_EQ(FromMcp.Code, 200);
+    EXPECT_EQ(FromMcp.ContentType, "application/json");
+    EXPECT_EQ(FromMcp.Headers, AnyOrigin);
+    EXPECT_EQ(FromMcp.Body,
+              "{\r\n\t\"jsonrpc\": \"2.0\",\r\n\t\"id\": \"a1\",\r\n\t\"result\":\r\n\t{\r\n\t}\r\n}");
+    EXPECT_EQ(FromSse.Body, FromMcp.Body);
+    EXPECT_EQ(FromSse.ContentType, FromMcp.ContentType);
+    EXPECT_EQ(FromSse.Headers, FromMcp.Headers);
+    EXPECT_EQ(HandlersMade, 1);
+}
+
+TEST_F(FOrvMcpServerTest, EmptyOrMalformedBodiesGetJsonRpcErrorsWithStatus200)
+{
+    ASSERT_TRUE(Server.Start(30011));
+    const std::string ParseError =
+        R"({"jsonrpc":"2.0","id":null,"error":{"code":-32700,"message":"Parse error: invalid JSON"}})";
+
+    const FOrvHttpResponse Empty = Post("/mcp", "");
+    EXPECT_EQ(Empty.Code, 200);
+    EXPECT_EQ(Empty.Headers, AnyOrigin);
+    EXPECT_EQ(OrvCondensedJson(Empty.Body), ParseError);
+    EXPECT_EQ(OrvCondensedJson(Post("/sse", "{").Body), ParseError);
+
+    // Broken UTF-8 is decoded with replacement characters, not rejected and not passed on raw.
+    const FOrvHttpResponse Broken = Post("/mcp", "{\"id\":\"a\xFF\",\"method\":\"ping\"}");
+    EXPECT_EQ(OrvCondensedJson(Broken.Body), "{\"jsonrpc\":\"2.0\",\"id\":\"a\xEF\xBF\xBD\",\"result\":{}}");
+}
+
+TEST_F(FOrvMcpServerTest, ToolAnswersThatArriveAfterTheRouteReturnedAreStillSent)
+{
+    ASSERT_TRUE(Server.Start(30011));
+    const FOrvFakeHttpExchange Exchange =
+        Router().Send(EOrvHttpVerb::Post, "/mcp",
+                      R"({"id":"later","method":"tools/call","params":{"name":"ue_list_scene"}})");
+    EXPECT_TRUE(Exchange.bHandled);
+    EXPECT_GT(Editor.GameThread.PendingCount(), 0u) << "the scene listing runs on a later game-thread turn";
+    EXPECT_TRUE(Exchange.Responses->empty());
+
+    Editor.GameThread.RunPending();
+    ASSERT_EQ(Exchange.Responses->size(), 1u);
+    const FOrvHttpResponse& Response = Exchange.Responses->front();
+    EXPECT_EQ(Response.ContentType, "application/json");
+    EXPECT_EQ(Response.Headers, AnyOrigin);
+    EXPECT_NE(Response.Body.find("\"id\": \"later\""), std::string::npos) << Response.Body;
+}
