@@ -30,7 +30,7 @@ public:
     /** Runs until Stop is called. */
     void Run();
 
-    /** Runs until Done returns true (checked after every handler) or TimeoutSeconds pass; false on timeout. */
+    /** Runs until Done() is true (checked after each handler) or the time is up; false on timeout. */
     bool RunUntil(const std::function<bool()>& Done, double TimeoutSeconds);
 
     /** Makes Run return; callable from a signal handler's posted work or any handler. */

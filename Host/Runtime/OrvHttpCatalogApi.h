@@ -11,7 +11,7 @@ class FOrvHostEventLoop;
 /** @brief Limits of the catalogue HTTP client. */
 struct FOrvHttpClientLimits
 {
-    double TimeoutSeconds = 15.0;               ///< whole request, connect to last byte
+    double TimeoutSeconds = 15.0;                  ///< whole request, connect to last byte
     std::size_t MaxAnswerBytes = 32 * 1024 * 1024; ///< a larger answer counts as a failed request
 };
 
