@@ -67,7 +67,7 @@ int main(int Argc, char** Argv)
     FOrvCardsOptions Cards;
     auto* CardsCommand = App.add_subcommand(
         "cards", "Print Markdown product cards for catalogue product records (a JSON array, or an object "
-                 "with a \"products\" member)");
+                 "with a \"products\" member; see Docs/Cards.md)");
     CardsCommand->add_option("--full", Cards.FullCards, "How many products get a full card; the rest are "
                                                         "listed compactly")
         ->capture_default_str();
