@@ -24,8 +24,8 @@ struct FOrvMemoryMeshDesc
 /** @brief An actor to place in the in-memory level. */
 struct FOrvMemoryActorDesc
 {
-    std::string Name;                       ///< object name; empty: the next free "<Class>_<N>"
-    std::string Label;                      ///< editor label; empty: the object name
+    std::string Name;  ///< object name; empty: the next free "<Class>_<N>"
+    std::string Label; ///< editor label; empty: the object name
     std::string ClassName = "StaticMeshActor";
     FOrvTransform Transform;
     std::vector<FOrvMeshRef> StaticMeshComponents; ///< one per component, in order; null = no mesh
@@ -40,6 +40,7 @@ struct FOrvMemoryViewportDesc
     FOrvTransform OrthographicView;
     double FieldOfView = 90.0;
     FOrvIntPoint Size{1280, 720};
+    double OrthoWidth = 2000.0; ///< world width across the orthographic view, centimetres
 };
 
 /** @brief One actor as the in-memory level holds it. */
@@ -65,6 +66,13 @@ struct FOrvMemoryHistoryEntry
  * @brief A real editor held in memory: a level of actors, static mesh assets with product tags, an
  * asset registry, a camera and viewport, the selection, and transactions with undo and redo.
  * It implements every editor port the core uses; the core reaches it only through them.
+ *
+ * Engine behaviour it keeps: actors iterate in insertion order; spawned actors are named
+ * "StaticMeshActor_N" with N above every number used this session (never reused after deletes);
+ * labels are free text. Actor-spawned and actor-destroyed handlers fire whenever an actor enters or
+ * leaves the level: spawn, destroy, AddActor, and undo/redo that brings one back or takes it away.
+ * Without an editor world (SetEditorWorldAvailable(false)) the world ports answer empty and refuse
+ * changes; the viewport and the asset registry do not depend on the world.
  */
 class FOrvMemoryEditor
 {
@@ -77,7 +85,7 @@ public:
     // Building the project and level (scene files, demo scene, tests). Not undoable.
     FOrvMeshRef AddStaticMesh(const FOrvMemoryMeshDesc& Mesh);
     void AddAsset(const FOrvAssetData& Asset); ///< a non-mesh asset (material, texture) for the registry
-    FOrvActorRef AddActor(const FOrvMemoryActorDesc& Actor);
+    FOrvActorRef AddActor(const FOrvMemoryActorDesc& Actor); ///< null when the name is taken this session
     void SetViewport(const std::optional<FOrvMemoryViewportDesc>& Viewport); ///< nothing: no viewport open
     void SetEditorWorldAvailable(bool bAvailable);                           ///< false: no editor world
     void SetMapName(const std::string& MapName);
@@ -86,16 +94,18 @@ public:
     std::vector<const FOrvMemoryActor*> GetLevelActors() const; ///< in iterator order
     const FOrvMemoryActor* FindActor(FOrvActorRef Actor) const;
     const FOrvMemoryActor* FindActorByName(const std::string& Name) const; ///< exact name
-    std::vector<FOrvMemoryMeshDesc> GetMeshes() const;                      ///< in registration order
+    std::vector<FOrvMemoryMeshDesc> GetMeshes() const;                     ///< in registration order
     std::vector<FOrvAssetData> GetNonMeshAssets() const;
+    std::vector<FOrvAssetData> GetRegisteredAssets() const; ///< meshes and others, in registry order
     std::optional<FOrvMemoryViewportDesc> GetViewport() const;
     std::vector<FOrvActorRef> GetSelectedActors() const;
+    int GetSelectionChangeNotifications() const; ///< how often NoteSelectionChange was called
     std::string GetMapName() const;
     bool IsEditorWorldAvailable() const;
 
     // Undo buffer.
-    bool Undo(); ///< false when there is nothing to undo
-    bool Redo(); ///< false when there is nothing to redo
+    bool Undo();                                                ///< false when there is nothing to undo
+    bool Redo();                                                ///< false when there is nothing to redo
     std::vector<FOrvMemoryHistoryEntry> GetUndoHistory() const; ///< oldest first
     std::vector<FOrvMemoryHistoryEntry> GetRedoHistory() const; ///< next redo last
     bool IsDirty() const;                                       ///< changed since MarkClean

@@ -1,0 +1,137 @@
+#pragma once
+
+#include "Core/Ports/IOrvActorEditing.h"
+#include "Core/Ports/IOrvAssetRegistry.h"
+#include "Core/Ports/IOrvEditorSelection.h"
+#include "Core/Ports/IOrvEditorWorld.h"
+#include "Core/Ports/IOrvViewport.h"
+#include "Host/Editor/OrvMemoryAssetStore.h"
+#include "Host/Editor/OrvMemoryEditor.h"
+#include "Host/Editor/OrvMemoryLevel.h"
+#include "Host/Editor/OrvMemoryUndoBuffer.h"
+#include "Host/Editor/OrvSoftwareRenderer.h"
+
+#include <optional>
+
+/** @brief Everything the in-memory editor holds; the port adapters below share it. */
+struct FOrvMemoryEditorContext
+{
+    FOrvMemoryLevel Level;
+    FOrvMemoryAssetStore Assets;
+    FOrvMemoryUndoBuffer UndoBuffer{Level};
+    std::optional<FOrvMemoryViewportDesc> Viewport;
+};
+
+// One adapter per port, each implemented in its own file (OrvMemory<Port>Port.cpp).
+
+class FOrvMemoryWorldPort : public IOrvEditorWorld
+{
+public:
+    explicit FOrvMemoryWorldPort(const FOrvMemoryEditorContext& InContext) : Context(InContext) {}
+
+    bool HasEditorWorld() const override;
+    std::vector<FOrvActorRef> GetActors() const override;
+    bool IsActorAlive(FOrvActorRef Actor) const override;
+    std::string GetActorName(FOrvActorRef Actor) const override;
+    std::string GetActorLabel(FOrvActorRef Actor) const override;
+    FOrvTransform GetActorTransform(FOrvActorRef Actor) const override;
+    std::vector<FOrvMeshRef> GetStaticMeshComponents(FOrvActorRef Actor) const override;
+    std::string GetMapName() const override;
+
+private:
+    const FOrvMemoryActor* Find(FOrvActorRef Actor) const;
+
+    const FOrvMemoryEditorContext& Context;
+};
+
+class FOrvMemoryLevelEventsPort : public IOrvLevelEvents
+{
+public:
+    explicit FOrvMemoryLevelEventsPort(FOrvMemoryEditorContext& InContext) : Context(InContext) {}
+
+    FOrvActorEventsHandle AddActorHandlers(FOrvActorEvent OnSpawned, FOrvActorEvent OnDestroyed) override;
+    void RemoveActorHandlers(FOrvActorEventsHandle Handle) override;
+
+private:
+    FOrvMemoryEditorContext& Context;
+};
+
+class FOrvMemoryActorEditingPort : public IOrvActorEditing
+{
+public:
+    explicit FOrvMemoryActorEditingPort(FOrvMemoryEditorContext& InContext) : Context(InContext) {}
+
+    FOrvActorRef SpawnStaticMeshActor(const FOrvVector& Location, const FOrvRotator& Rotation) override;
+    void ModifyActor(FOrvActorRef Actor) override;
+    void SetStaticMesh(FOrvActorRef Actor, FOrvMeshRef Mesh) override;
+    void SetActorLabel(FOrvActorRef Actor, std::string_view Label) override;
+    void SetActorTransform(FOrvActorRef Actor, const std::optional<FOrvVector>& Location,
+                           const std::optional<FOrvRotator>& Rotation) override;
+    std::optional<FOrvTransform> GetRootComponentTransform(FOrvActorRef Actor) const override;
+    bool EditorDestroyActor(FOrvActorRef Actor) override;
+    void SetTemporarilyHidden(FOrvActorRef Actor, bool bHidden) override;
+
+private:
+    FOrvMemoryActor* Find(FOrvActorRef Actor) const;
+    void Commit(const FOrvMemoryActor& Before, const FOrvMemoryActor& After);
+
+    FOrvMemoryEditorContext& Context;
+};
+
+class FOrvMemorySelectionPort : public IOrvEditorSelection
+{
+public:
+    explicit FOrvMemorySelectionPort(FOrvMemoryEditorContext& InContext) : Context(InContext) {}
+
+    void SelectNone() override;
+    void SelectActor(FOrvActorRef Actor) override;
+    void NoteSelectionChange() override;
+
+private:
+    FOrvMemoryEditorContext& Context;
+};
+
+class FOrvMemoryAssetRegistryPort : public IOrvAssetRegistry
+{
+public:
+    explicit FOrvMemoryAssetRegistryPort(const FOrvMemoryEditorContext& InContext) : Context(InContext) {}
+
+    std::vector<FOrvAssetData> GetAssetsByPath(std::string_view PackagePath, bool bRecursive) const override;
+    FOrvMeshRef LoadStaticMesh(std::string_view ObjectPath) override;
+    FOrvMeshRef LoadStaticMeshAsset(const FOrvAssetData& Asset) override;
+
+private:
+    const FOrvMemoryEditorContext& Context;
+};
+
+class FOrvMemoryStaticMeshesPort : public IOrvStaticMeshes
+{
+public:
+    explicit FOrvMemoryStaticMeshesPort(const FOrvMemoryEditorContext& InContext) : Context(InContext) {}
+
+    bool IsMeshAlive(FOrvMeshRef Mesh) const override;
+    std::string GetMeshName(FOrvMeshRef Mesh) const override;
+    std::string GetMeshPathName(FOrvMeshRef Mesh) const override;
+    FOrvBox GetBoundingBox(FOrvMeshRef Mesh) const override;
+    std::optional<FOrvProductTag> GetProductTag(FOrvMeshRef Mesh) const override;
+
+private:
+    const FOrvMemoryEditorContext& Context;
+};
+
+class FOrvMemoryViewportPort : public IOrvViewport
+{
+public:
+    explicit FOrvMemoryViewportPort(const FOrvMemoryEditorContext& InContext) : Context(InContext) {}
+
+    bool HasActiveViewport() const override;
+    std::optional<FOrvViewInfo> GetLevelViewportView() const override;
+    bool HasClientViewport() const override;
+    FOrvIntPoint GetViewportSize() const override;
+    bool ReadPixels(std::vector<FOrvColor>& Out) override;
+
+private:
+    const FOrvMemoryEditorContext& Context;
+    FOrvSoftwareRenderer Renderer;
+    std::vector<FOrvRenderBox> Boxes; ///< kept between captures to avoid reallocating
+};

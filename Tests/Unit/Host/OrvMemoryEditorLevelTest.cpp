@@ -1,0 +1,127 @@
+#include "Host/Editor/OrvMemoryEditor.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace
+{
+    FOrvActorRef SpawnAndKeep(FOrvMemoryEditor& Editor)
+    {
+        FOrvScopedTransaction Transaction(Editor.Transactions(), "Spawn");
+        return Editor.Editing().SpawnStaticMeshActor({}, {});
+    }
+} // namespace
+
+TEST(FOrvMemoryEditorLevelTest, SpawnedActorsAreNumberedAboveEveryNumberUsedAndNeverReused)
+{
+    FOrvMemoryEditor Editor;
+    Editor.AddActor({"StaticMeshActor_7", "", "StaticMeshActor", {}, {}, true});
+    Editor.AddActor({"Chair_40", "", "StaticMeshActor", {}, {}, true});
+
+    const FOrvActorRef First = SpawnAndKeep(Editor);
+    EXPECT_EQ(Editor.World().GetActorName(First), "StaticMeshActor_8");
+    EXPECT_EQ(Editor.World().GetActorLabel(First), "StaticMeshActor_8") << "the label starts as the name";
+
+    Editor.Editing().EditorDestroyActor(First);
+    EXPECT_EQ(Editor.World().GetActorName(SpawnAndKeep(Editor)), "StaticMeshActor_9");
+    Editor.Undo();
+    EXPECT_EQ(Editor.World().GetActorName(SpawnAndKeep(Editor)), "StaticMeshActor_10");
+}
+
+TEST(FOrvMemoryEditorLevelTest, AddActorRefusesANameAlreadyUsedInTheSessionIgnoringCase)
+{
+    FOrvMemoryEditor Editor;
+    const FOrvActorRef Sofa = Editor.AddActor({"Sofa", "", "StaticMeshActor", {}, {}, true});
+    EXPECT_FALSE(Editor.AddActor({"SOFA", "", "StaticMeshActor", {}, {}, true}));
+    Editor.Editing().EditorDestroyActor(Sofa);
+    EXPECT_FALSE(Editor.AddActor({"sofa", "", "StaticMeshActor", {}, {}, true}))
+        << "undo could bring the destroyed one back";
+    EXPECT_EQ(Editor.FindActorByName("Sofa"), nullptr);
+}
+
+TEST(FOrvMemoryEditorLevelTest, LabelsAreFreeTextAndAnEmptyLabelFallsBackToTheName)
+{
+    FOrvMemoryEditor Editor;
+    const FOrvActorRef A = Editor.AddActor({"", "Chair", "StaticMeshActor", {}, {}, true});
+    const FOrvActorRef B = Editor.AddActor({"", "Chair", "StaticMeshActor", {}, {}, true});
+    EXPECT_EQ(Editor.World().GetActorLabel(A), Editor.World().GetActorLabel(B));
+    Editor.Editing().SetActorLabel(B, "  ");
+    EXPECT_EQ(Editor.World().GetActorLabel(B), Editor.World().GetActorName(B));
+}
+
+TEST(FOrvMemoryEditorLevelTest, WithoutAnEditorWorldTheWorldPortsAreEmptyAndRefuseChanges)
+{
+    FOrvMemoryEditor Editor;
+    Editor.SetMapName("DemoRoom");
+    const FOrvActorRef Actor = Editor.AddActor({"", "Chair", "StaticMeshActor", {{1, 2, 3}, {}}, {}, true});
+    Editor.SetEditorWorldAvailable(false);
+
+    EXPECT_FALSE(Editor.World().HasEditorWorld());
+    EXPECT_TRUE(Editor.World().GetActors().empty());
+    EXPECT_FALSE(Editor.World().IsActorAlive(Actor));
+    EXPECT_EQ(Editor.World().GetMapName(), "");
+    EXPECT_FALSE(Editor.Editing().SpawnStaticMeshActor({}, {}));
+    EXPECT_FALSE(Editor.Editing().EditorDestroyActor(Actor));
+    EXPECT_FALSE(Editor.LevelEvents().AddActorHandlers({}, {}).IsValid());
+
+    Editor.SetEditorWorldAvailable(true);
+    EXPECT_EQ(Editor.World().GetActorTransform(Actor).Location, (FOrvVector{1, 2, 3}));
+}
+
+TEST(FOrvMemoryEditorLevelTest, AnActorWithoutRootComponentHasNoTransformAndCannotMove)
+{
+    FOrvMemoryEditor Editor;
+    const FOrvActorRef Actor = Editor.AddActor({"", "", "Info", {{1, 2, 3}, {}}, {}, false});
+    Editor.Editing().SetActorTransform(Actor, FOrvVector{5, 5, 5}, std::nullopt);
+    EXPECT_FALSE(Editor.Editing().GetRootComponentTransform(Actor).has_value());
+    EXPECT_EQ(Editor.World().GetActorTransform(Actor), FOrvTransform{});
+}
+
+TEST(FOrvMemoryEditorLevelTest, SelectionKeepsOrderSkipsDuplicatesAndLosesDestroyedActors)
+{
+    FOrvMemoryEditor Editor;
+    const FOrvActorRef A = Editor.AddActor({});
+    const FOrvActorRef B = Editor.AddActor({});
+    Editor.Editing().SetTemporarilyHidden(B, true);
+    Editor.Selection().SelectActor(B);
+    Editor.Selection().SelectActor(A);
+    Editor.Selection().SelectActor(B);
+    Editor.Selection().NoteSelectionChange();
+    EXPECT_EQ(Editor.GetSelectedActors(), (std::vector<FOrvActorRef>{B, A}));
+    EXPECT_EQ(Editor.GetSelectionChangeNotifications(), 1);
+
+    Editor.Editing().EditorDestroyActor(B);
+    EXPECT_EQ(Editor.GetSelectedActors(), std::vector<FOrvActorRef>{A});
+    Editor.Selection().SelectNone();
+    EXPECT_TRUE(Editor.GetSelectedActors().empty());
+}
+
+TEST(FOrvMemoryEditorLevelTest, WithoutAViewportTheViewportPortReportsNone)
+{
+    FOrvMemoryEditor Editor;
+    EXPECT_TRUE(Editor.Viewport().HasActiveViewport()) << "an editor opens with a level viewport";
+    Editor.SetViewport(std::nullopt);
+    EXPECT_FALSE(Editor.Viewport().HasActiveViewport());
+    EXPECT_FALSE(Editor.Viewport().HasClientViewport());
+    EXPECT_FALSE(Editor.Viewport().GetLevelViewportView().has_value());
+    EXPECT_EQ(Editor.Viewport().GetViewportSize().X, 0);
+    std::vector<FOrvColor> Pixels;
+    EXPECT_FALSE(Editor.Viewport().ReadPixels(Pixels));
+}
+
+TEST(FOrvMemoryEditorLevelTest, TheViewReadsTheTransformOfTheCurrentProjection)
+{
+    FOrvMemoryEditor Editor;
+    FOrvMemoryViewportDesc Viewport;
+    Viewport.PerspectiveView = {{1, 2, 3}, {-10, 20, 0}};
+    Viewport.OrthographicView = {{0, 0, 900}, {-90, 0, 0}};
+    Viewport.FieldOfView = 75;
+    Editor.SetViewport(Viewport);
+    EXPECT_EQ(Editor.Viewport().GetLevelViewportView()->Location, (FOrvVector{1, 2, 3}));
+    EXPECT_EQ(Editor.Viewport().GetLevelViewportView()->FieldOfView, 75);
+
+    Viewport.bPerspective = false;
+    Editor.SetViewport(Viewport);
+    EXPECT_EQ(Editor.Viewport().GetLevelViewportView()->Rotation, (FOrvRotator{-90, 0, 0}));
+}
