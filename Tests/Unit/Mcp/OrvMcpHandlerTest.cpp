@@ -25,20 +25,16 @@ namespace
     class FOrvMcpHandlerTest : public ::testing::Test
     {
     protected:
-        /** Sends Body and returns the one response, condensed; fails the test unless exactly one came. */
-        std::string Call(std::string_view Body)
-        {
-            const std::vector<std::string> Responses = OrvSendMcpRequest(Handler, Editor.GameThread, Body);
-            EXPECT_EQ(Responses.size(), 1u) << "request: " << Body;
-            return Responses.empty() ? std::string() : OrvCondensedJson(Responses.front());
-        }
-
+        /** Sends Body and returns the one response as sent; fails the test unless exactly one came. */
         std::string CallExact(std::string_view Body)
         {
             const std::vector<std::string> Responses = OrvSendMcpRequest(Handler, Editor.GameThread, Body);
             EXPECT_EQ(Responses.size(), 1u) << "request: " << Body;
             return Responses.empty() ? std::string() : Responses.front();
         }
+
+        /** The one response, condensed: content and key order without layout. */
+        std::string Call(std::string_view Body) { return OrvCondensedJson(CallExact(Body)); }
 
         FOrvNullEditorPorts Editor;
         FOrvMcpHandler Handler{Editor.Ports()};
@@ -54,7 +50,7 @@ TEST_F(FOrvMcpHandlerTest, BodiesThatAreNotAJsonObjectGetTheParseErrorWithNullId
     }
 }
 
-TEST_F(FOrvMcpHandlerTest, RequestIdComesBackUnchangedWhateverItsType)
+TEST_F(FOrvMcpHandlerTest, RequestIdComesBackUnchangedWhateverItsTypeAndNullWhenAbsent)
 {
     const std::vector<std::string> Ids = {R"("a1")",
                                           "7",
@@ -72,10 +68,8 @@ TEST_F(FOrvMcpHandlerTest, RequestIdComesBackUnchangedWhateverItsType)
                   R"({"jsonrpc":"2.0","id":)" + Id + R"(,"result":{}})");
     }
     EXPECT_EQ(Call(R"({"method":"ping"})"), R"({"jsonrpc":"2.0","id":null,"result":{}})");
-}
 
-TEST_F(FOrvMcpHandlerTest, NotificationIsAnsweredLikeARequestWithNullId)
-{
+    // A notification still gets an answer, like a request without id.
     EXPECT_EQ(Call(R"({"jsonrpc":"2.0","method":"notifications/initialized"})"),
               R"({"jsonrpc":"2.0","id":null,"result":{}})");
 }

@@ -71,11 +71,13 @@ namespace
     }
 } // namespace
 
-TEST_F(FOrvMcpServerTest, StartBindsTheFourRoutesInOrderAndAnnouncesTheUrl)
+TEST_F(FOrvMcpServerTest, StartBindsTheFourRoutesOnceAndAnnouncesTheUrl)
 {
     ASSERT_TRUE(Server.Start(30011));
+    EXPECT_TRUE(Server.Start(40000)) << "a running server stays on its port";
     EXPECT_TRUE(Server.IsRunning());
     EXPECT_EQ(Server.GetPort(), 30011u);
+    EXPECT_EQ(Http.RouterRequests, 1);
     EXPECT_EQ(BoundRoutes(Router()), (std::vector<std::pair<std::string, EOrvHttpVerb>>{
                                          {"/health", EOrvHttpVerb::Get},
                                          {"/sse", EOrvHttpVerb::Get},
@@ -87,18 +89,6 @@ TEST_F(FOrvMcpServerTest, StartBindsTheFourRoutesInOrderAndAnnouncesTheUrl)
     EXPECT_EQ(Log.Lines[0].Category, EOrvLogCategory::LogOrvMcp);
     EXPECT_EQ(Log.Lines[0].Verbosity, EOrvLogVerbosity::Log);
     EXPECT_EQ(Log.Lines[0].Message, "Orv MCP: server listening on http://127.0.0.1:30011");
-}
-
-TEST_F(FOrvMcpServerTest, StartingTwiceBindsOnceAndKeepsTheFirstPort)
-{
-    ASSERT_TRUE(Server.Start(30011));
-    EXPECT_TRUE(Server.Start(40000));
-    EXPECT_EQ(Server.GetPort(), 30011u);
-    EXPECT_EQ(Http.RouterRequests, 1);
-    EXPECT_EQ(Http.FindRouter(40000), nullptr);
-    EXPECT_EQ(Router().Routes().size(), 4u);
-    EXPECT_EQ(Http.StartCount, 1);
-    EXPECT_EQ(Log.Count("Orv MCP: server listening on http://127.0.0.1:30011"), 1);
 }
 
 TEST_F(FOrvMcpServerTest, UnavailablePortFailsStartWithAWarningAndCanBeRetried)
@@ -122,7 +112,7 @@ TEST_F(FOrvMcpServerTest, UnavailablePortFailsStartWithAWarningAndCanBeRetried)
     EXPECT_EQ(Router().Routes().size(), 4u);
 }
 
-TEST_F(FOrvMcpServerTest, StopUnbindsEveryRouteOnceAndOnlyARunningServerLogsIt)
+TEST_F(FOrvMcpServerTest, StopUnbindsEveryRouteOnceAndOnlyARunningServerStopsAndLogs)
 {
     ASSERT_TRUE(Server.Start(30011));
     Log.Lines.clear();
@@ -141,48 +131,40 @@ TEST_F(FOrvMcpServerTest, StopUnbindsEveryRouteOnceAndOnlyARunningServerLogsIt)
     EXPECT_EQ(Http.StopCount, 1);
     EXPECT_EQ(Log.Lines.size(), 1u);
 
-    // A stopped server starts again with fresh routes.
-    ASSERT_TRUE(Server.Start(30011));
-    EXPECT_EQ(Router().Routes().size(), 4u);
-}
-
-TEST_F(FOrvMcpServerTest, DestroyingARunningServerUnbindsItsRoutes)
-{
+    // Destroying a running server stops it; a stopped one is left alone.
     {
         FOrvMcpServer Scoped = MakeServer();
         ASSERT_TRUE(Scoped.Start(30011));
+        EXPECT_EQ(Router().Routes().size(), 4u);
     }
     EXPECT_TRUE(Router().Routes().empty());
-    EXPECT_EQ(Http.StopCount, 1);
-    EXPECT_EQ(Log.Count("Orv MCP: server stopped"), 1);
+    EXPECT_EQ(Http.StopCount, 2);
+    EXPECT_EQ(Log.Count("Orv MCP: server stopped"), 2);
 }
 
-TEST_F(FOrvMcpServerTest, HealthAnswersFixedJsonWithoutExtraHeaders)
+TEST_F(FOrvMcpServerTest, GetRoutesAnswerTheirFixedTextAtOnce)
 {
     ASSERT_TRUE(Server.Start(30011));
-    const FOrvFakeHttpExchange Exchange = Router().Send(EOrvHttpVerb::Get, "/health");
-    EXPECT_TRUE(Exchange.bHandled);
-    ASSERT_EQ(Exchange.Responses->size(), 1u);
-    const FOrvHttpResponse& Response = Exchange.Responses->front();
-    EXPECT_EQ(Response.Code, 200);
-    EXPECT_EQ(Response.Body, R"({"status":"ok","service":"orvessa-ue-mcp"})");
-    EXPECT_EQ(Response.ContentType, "application/json");
-    EXPECT_TRUE(Response.Headers.empty());
-    EXPECT_EQ(HandlersMade, 0) << "the handler is made by the first JSON-RPC request, not by a probe";
-}
+    const FOrvFakeHttpExchange Health = Router().Send(EOrvHttpVerb::Get, "/health");
+    const FOrvFakeHttpExchange Sse = Router().Send(EOrvHttpVerb::Get, "/sse");
+    ASSERT_TRUE(Health.bHandled && Sse.bHandled);
+    ASSERT_EQ(Health.Responses->size(), 1u);
+    ASSERT_EQ(Sse.Responses->size(), 1u);
 
-TEST_F(FOrvMcpServerTest, SseGetAnswersOneEndpointEventAndIsCompleteAtOnce)
-{
-    ASSERT_TRUE(Server.Start(30011));
-    const FOrvFakeHttpExchange Exchange = Router().Send(EOrvHttpVerb::Get, "/sse");
-    EXPECT_TRUE(Exchange.bHandled);
-    ASSERT_EQ(Exchange.Responses->size(), 1u);
-    const FOrvHttpResponse& Response = Exchange.Responses->front();
-    EXPECT_EQ(Response.Code, 200);
-    EXPECT_EQ(Response.Body, "event: endpoint\ndata: /sse\n\n");
-    EXPECT_EQ(Response.ContentType, "text/event-stream");
-    EXPECT_EQ(Response.Headers,
+    const FOrvHttpResponse& HealthResponse = Health.Responses->front();
+    EXPECT_EQ(HealthResponse.Code, 200);
+    EXPECT_EQ(HealthResponse.Body, R"({"status":"ok","service":"orvessa-ue-mcp"})");
+    EXPECT_EQ(HealthResponse.ContentType, "application/json");
+    EXPECT_TRUE(HealthResponse.Headers.empty());
+
+    // One endpoint event and the reply is complete: no stream is held open.
+    const FOrvHttpResponse& SseResponse = Sse.Responses->front();
+    EXPECT_EQ(SseResponse.Code, 200);
+    EXPECT_EQ(SseResponse.Body, "event: endpoint\ndata: /sse\n\n");
+    EXPECT_EQ(SseResponse.ContentType, "text/event-stream");
+    EXPECT_EQ(SseResponse.Headers,
               (FHeaders{{"Cache-Control", "no-cache"}, {"Access-Control-Allow-Origin", "*"}}));
+    EXPECT_EQ(HandlersMade, 0) << "the handler is made by the first JSON-RPC request, not by a probe";
 }
 
 TEST_F(FOrvMcpServerTest, PostToMcpAndToSseGiveTheSameAnswerFromOneSharedHandler)

@@ -16,6 +16,7 @@ namespace
     {
         const char* Name;
         const char* Description;
+        const char* Schema; ///< condensed, keys in order; argument texts are part of the contract too
     };
 
     const FExpectedTool ExpectedTools[] = {
@@ -28,18 +29,21 @@ namespace
          "'what's placed in the scene', 'show me the inventory', 'cosa c'e nella scena', 'quali prodotti "
          "sono nel livello', 'elenca gli attori'. COMPLEMENTARY to ue_capture_view: this identifies WHICH "
          "ORVESSA products are present; ue_capture_view shows what the level LOOKS like. Use both for "
-         "full understanding."},
+         "full understanding.",
+         R"({"type":"object","properties":{}})"},
         {"ue_get_camera",
          "Return the active editor viewport camera transform: location (x,y,z in cm), rotation "
          "(pitch,yaw,roll in degrees), FOV. Use this to ground spatial reasoning in what the user is "
          "currently looking at, before suggesting camera moves or reframing. Triggers: 'where is the "
          "camera', 'what's the viewpoint', 'what's the camera angle', 'da dove guarda la camera', 'qual e "
-         "il punto di vista'."},
+         "il punto di vista'.",
+         R"({"type":"object","properties":{}})"},
         {"ue_list_available_assets",
          "Return the list of ORVESSA StaticMesh assets imported under /Game/ORVESSA in the current UE "
          "project. Call this FIRST before any spawn workflow to know what's available locally. Triggers: "
          "'what assets do I have', 'what can I spawn', 'list available products', 'what's imported', "
-         "'quali asset ho', 'cosa posso inserire', 'quali prodotti sono disponibili'."},
+         "'quali asset ho', 'cosa posso inserire', 'quali prodotti sono disponibili'.",
+         R"({"type":"object","properties":{}})"},
         {"ue_capture_view",
          "Capture a JPEG screenshot of the active Unreal Editor viewport and return it as an image the AI "
          "can see. Use this as the FIRST step whenever the user wants to interact with, analyze, or "
@@ -54,7 +58,10 @@ namespace
          "1080-2160px wide). COMPLEMENTARY to ue_list_scene: this shows what the level LOOKS like; "
          "ue_list_scene identifies WHICH ORVESSA products are present. Use a lower 'quality' value (e.g. "
          "60) to reduce token cost when full fidelity is not needed. Returns an error if no editor "
-         "viewport is currently open."},
+         "viewport is currently open.",
+         R"({"type":"object","properties":{)"
+         R"("quality":{"type":"integer","description":"JPEG quality 1-100. Default 80. Lower = smaller payload, lower fidelity."}})"
+         R"(})"},
         {"ue_spawn_product",
          "Place an already-imported ORVESSA product into the active Unreal level. Call "
          "ue_list_available_assets FIRST to get a valid asset_path. Spawns only assets under "
@@ -62,91 +69,45 @@ namespace
          "subsequent ue_move_actor / ue_delete_actor, plus the local 'bounds' of the spawned mesh. For "
          "multi-object layouts or any 'facing / around / next-to' placement, call ue_placement_guide and "
          "ue_get_asset_bounds FIRST to compute correct positions and orientation. Triggers: 'put X in the "
-         "scene', 'add the X', 'place a X', 'spawn X', 'metti X nella scena', 'aggiungi X', 'inserisci X'."},
+         "scene', 'add the X', 'place a X', 'spawn X', 'metti X nella scena', 'aggiungi X', 'inserisci X'.",
+         R"({"type":"object","properties":{)"
+         R"("asset_path":{"type":"string","description":"Full UE asset path under /Game/ORVESSA, taken verbatim from ue_list_available_assets (e.g. /Game/ORVESSA/Brand/Products/Collection/Meshes/SM_X.SM_X)."},)"
+         R"("location":{"type":"array","items":{"type":"number"},"description":"Optional [x,y,z] in cm. Omit to place ~3 m in front of the editor camera (recommended so the user sees the result)."},)"
+         R"("rotation":{"type":"array","items":{"type":"number"},"description":"Optional [pitch,yaw,roll] in degrees. Defaults to [0,0,0]."}})"
+         R"(,"required":["asset_path"]})"},
         {"ue_move_actor",
          "Move and/or rotate an existing actor by its id (absolute set — provided fields are applied, "
          "others unchanged). Get the id from ue_list_scene or ue_spawn_product first. Triggers: 'move X', "
-         "'rotate X', 'reposition X', 'sposta X', 'ruota X', 'riposiziona X'."},
+         "'rotate X', 'reposition X', 'sposta X', 'ruota X', 'riposiziona X'.",
+         R"({"type":"object","properties":{)"
+         R"("id":{"type":"string","description":"Instance id from ue_list_scene or ue_spawn_product."},)"
+         R"("location":{"type":"array","items":{"type":"number"},"description":"Optional new absolute [x,y,z] in cm."},)"
+         R"("rotation":{"type":"array","items":{"type":"number"},"description":"Optional new absolute [pitch,yaw,roll] in degrees."}})"
+         R"(,"required":["id"]})"},
         {"ue_delete_actor",
          "Remove an actor from the level by its id. Use to clean up or correct a placement. Get the id "
          "from ue_list_scene or ue_spawn_product first. Triggers: 'remove X', 'delete X', 'take X out', "
-         "'togli X', 'elimina X', 'rimuovi X'."},
+         "'togli X', 'elimina X', 'rimuovi X'.",
+         R"({"type":"object","properties":{)"
+         R"("id":{"type":"string","description":"Instance id from ue_list_scene or ue_spawn_product."}})"
+         R"(,"required":["id"]})"},
         {"ue_get_asset_bounds",
          "Return the LOCAL-space bounding box of an ORVESSA StaticMesh: size [W,D,H] in cm, "
          "bbox_min/bbox_max relative to the pivot (at the origin), a mounting_hint, and the forward axis. "
          "This is the SPATIAL reference for placement — use it instead of catalog cm dimensions (catalog "
          "cm omit depth). The pivot's position within the box tells you how the asset is meant to sit "
          "(floor / wall / ceiling). Call this for each product BEFORE composing a layout. See "
-         "ue_placement_guide."},
+         "ue_placement_guide.",
+         R"({"type":"object","properties":{)"
+         R"("asset_path":{"type":"string","description":"ORVESSA asset path (from ue_list_available_assets) or a bare asset_name."}})"
+         R"(,"required":["asset_path"]})"},
         {"ue_placement_guide",
          "Return the ORVESSA spatial placement rules for Unreal: coordinate convention (+Y forward), "
          "look-at orientation formula, pivot/bounding-box interpretation, spacing, and distribution. Call "
          "this FIRST whenever asked to place, arrange, or compose products in 3D space, or when relative "
-         "positioning is implied ('around', 'facing', 'next to', 'in front of')."},
+         "positioning is implied ('around', 'facing', 'next to', 'in front of').",
+         R"({"type":"object","properties":{}})"},
     };
-
-    struct FExpectedArgument
-    {
-        const char* Tool;
-        const char* Argument;
-        const char* Description;
-    };
-
-    const FExpectedArgument ExpectedArguments[] = {
-        {"ue_capture_view", "quality",
-         "JPEG quality 1-100. Default 80. Lower = smaller payload, lower fidelity."},
-        {"ue_spawn_product", "asset_path",
-         "Full UE asset path under /Game/ORVESSA, taken verbatim from ue_list_available_assets (e.g. "
-         "/Game/ORVESSA/Brand/Products/Collection/Meshes/SM_X.SM_X)."},
-        {"ue_spawn_product", "location",
-         "Optional [x,y,z] in cm. Omit to place ~3 m in front of the editor camera (recommended so the "
-         "user sees the result)."},
-        {"ue_spawn_product", "rotation", "Optional [pitch,yaw,roll] in degrees. Defaults to [0,0,0]."},
-        {"ue_move_actor", "id", "Instance id from ue_list_scene or ue_spawn_product."},
-        {"ue_move_actor", "location", "Optional new absolute [x,y,z] in cm."},
-        {"ue_move_actor", "rotation", "Optional new absolute [pitch,yaw,roll] in degrees."},
-        {"ue_delete_actor", "id", "Instance id from ue_list_scene or ue_spawn_product."},
-        {"ue_get_asset_bounds", "asset_path",
-         "ORVESSA asset path (from ue_list_available_assets) or a bare asset_name."},
-    };
-
-    std::string Quoted(std::string_view Text)
-    {
-        std::string Out = "\"";
-        OrvAppendJsonEscaped(Out, Text);
-        return Out + "\"";
-    }
-
-    std::string ArgumentText(std::string_view Tool, std::string_view Argument)
-    {
-        for (const FExpectedArgument& Expected : ExpectedArguments)
-        {
-            if (Tool == Expected.Tool && Argument == Expected.Argument)
-            {
-                return Quoted(Expected.Description);
-            }
-        }
-        ADD_FAILURE() << "no expected text for " << Tool << "." << Argument;
-        return {};
-    }
-
-    std::string ScalarArgument(std::string_view Tool, std::string_view Argument, std::string_view Type)
-    {
-        return Quoted(Argument) + R"(:{"type":")" + std::string(Type) + R"(","description":)" +
-               ArgumentText(Tool, Argument) + "}";
-    }
-
-    std::string VectorArgument(std::string_view Tool, std::string_view Argument)
-    {
-        return Quoted(Argument) + R"(:{"type":"array","items":{"type":"number"},"description":)" +
-               ArgumentText(Tool, Argument) + "}";
-    }
-
-    std::string Schema(const std::string& Properties, const std::string& Required = {})
-    {
-        return R"({"type":"object","properties":{)" + Properties + "}" +
-               (Required.empty() ? "" : R"(,"required":[")" + Required + R"("])") + "}";
-    }
 
     class FOrvMcpToolCatalogTest : public ::testing::Test
     {
@@ -201,31 +162,13 @@ TEST_F(FOrvMcpToolCatalogTest, EveryDescriptionMatchesByteForByte)
 
 TEST_F(FOrvMcpToolCatalogTest, SchemasDeclareArgumentsAndRequireOnlyWhatTheToolNeeds)
 {
-    const std::string NoArguments = Schema("");
-    const std::vector<std::string> Expected = {
-        NoArguments,
-        NoArguments,
-        NoArguments,
-        Schema(ScalarArgument("ue_capture_view", "quality", "integer")),
-        Schema(ScalarArgument("ue_spawn_product", "asset_path", "string") + "," +
-                   VectorArgument("ue_spawn_product", "location") + "," +
-                   VectorArgument("ue_spawn_product", "rotation"),
-               "asset_path"),
-        Schema(ScalarArgument("ue_move_actor", "id", "string") + "," +
-                   VectorArgument("ue_move_actor", "location") + "," +
-                   VectorArgument("ue_move_actor", "rotation"),
-               "id"),
-        Schema(ScalarArgument("ue_delete_actor", "id", "string"), "id"),
-        Schema(ScalarArgument("ue_get_asset_bounds", "asset_path", "string"), "asset_path"),
-        NoArguments,
-    };
-    ASSERT_EQ(Tools().Size(), Expected.size());
+    ASSERT_EQ(Tools().Size(), std::size(ExpectedTools));
     for (rapidjson::SizeType Index = 0; Index < Tools().Size(); ++Index)
     {
         std::string Schema;
         FOrvJsonWriter Writer(Schema, EOrvJsonStyle::Condensed);
         Writer.Value(Tools()[Index]["inputSchema"]);
-        EXPECT_EQ(Schema, Expected[Index]) << ExpectedTools[Index].Name;
+        EXPECT_EQ(Schema, ExpectedTools[Index].Schema) << ExpectedTools[Index].Name;
     }
 }
 
