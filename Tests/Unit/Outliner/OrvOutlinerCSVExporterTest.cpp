@@ -1,0 +1,160 @@
+#include "Core/Outliner/OrvOutlinerCSVExporter.h"
+#include "Tests/Unit/Outliner/OrvOutlinerTestRig.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
+
+namespace
+{
+    // Golden files are compared byte for byte; ORV_UPDATE_GOLDEN=1 rewrites them (then review the diff).
+    void ExpectMatchesGolden(const std::string& Actual, const std::string& GoldenPath)
+    {
+        const char* Update = std::getenv("ORV_UPDATE_GOLDEN");
+        if (Update && std::string(Update) == "1")
+        {
+            std::ofstream(GoldenPath, std::ios::binary) << Actual;
+        }
+        std::ifstream Stream(GoldenPath, std::ios::binary);
+        ASSERT_TRUE(Stream) << GoldenPath << " is missing (run from the repository root)";
+        std::ostringstream Expected;
+        Expected << Stream.rdbuf();
+        EXPECT_EQ(Actual, Expected.str()) << "differs from " << GoldenPath;
+    }
+
+    FOrvSceneProductPtr MakeProduct(const FOrvProductInfo& Info, std::vector<FOrvActorRef> Actors)
+    {
+        auto Product = std::make_shared<FOrvSceneProduct>();
+        Product->SetInfo(Info);
+        Product->Actors = std::move(Actors);
+        return Product;
+    }
+
+    FOrvProductInfo MakeInfo(const std::string& Id, const std::string& Brand, const std::string& Name)
+    {
+        FOrvProductInfo Info;
+        Info.ProductID = Id;
+        Info.Brand = Brand;
+        Info.Name = Name;
+        Info.Category = "";
+        return Info;
+    }
+} // namespace
+
+TEST(FOrvOutlinerCSVExporterTest, ScheduleWithTrickyValuesMatchesTheGoldenFile)
+{
+    FOrvOutlinerRig Rig;
+    const FOrvMeshRef Mesh = Rig.AddProductMesh("SM_Any", "ANY");
+    FOrvSceneProductMap Products;
+
+    FOrvProductInfo Lc2 = MakeInfo("P-LC2", "Cassina, Milano", "LC2 \"Grand Confort\"");
+    Lc2.Collection = "LC";
+    Lc2.Designer = "Le Corbusier";
+    Lc2.Category = "Armchairs";
+    Lc2.Dimensions = "76 x 70 x 67 cm";
+    Lc2.Weight = "32 kg";
+    Lc2.Website = "https://cassina.com/lc2?a=1,b=2";
+    Lc2.Description = "Tubular steel frame.\nLeather cushions.";
+    Products.Add(MakeProduct(Lc2, Rig.AddActors(Mesh, 2)));
+
+    // All of its actors were deleted after the scan: still a row, with 0.
+    const std::vector<FOrvActorRef> Gone = Rig.AddActors(Mesh, 2);
+    Products.Add(MakeProduct(MakeInfo("P-GHOST", "alias", "Ghost"), Gone));
+    for (const FOrvActorRef Actor : Gone)
+    {
+        Rig.Destroy(Actor);
+    }
+
+    FOrvProductInfo Bench = MakeInfo("P-BENCH", "Alias", "Bench");
+    Bench.Category = "Benches";
+    Bench.Description = "Windows line end\r\nin the text";
+    Products.Add(MakeProduct(Bench, Rig.AddActors(Mesh, 1)));
+
+    std::vector<FOrvActorRef> Sacco = Rig.AddActors(Mesh, 3);
+    Rig.Destroy(Sacco[0]);
+    FOrvProductInfo SaccoInfo = MakeInfo("P-SACCO", "Zanotta", "Sacco");
+    SaccoInfo.Category = "Poufs";
+    SaccoInfo.Weight = "\"light\"";
+    Products.Add(MakeProduct(SaccoInfo, Sacco));
+
+    Products.Add(MakeProduct(FOrvProductInfo::MakePlaceholder("P-UNKNOWN"), Rig.AddActors(Mesh, 1)));
+
+    const std::string CSV = FOrvOutlinerCSVExporter::GenerateCSV(Products, "Villa \"Rosa\", Como", "02",
+                                                                 Rig.Editor.World(), Rig.Environment);
+
+    ExpectMatchesGolden(CSV, "Tests/Golden/Outliner/ProductScheduleTricky.csv");
+}
+
+TEST(FOrvOutlinerCSVExporterTest, EmptyMapStillGivesHeaderTotalAndFooterWithTheFallbackVersion)
+{
+    FOrvOutlinerRig Rig;
+    Rig.Environment.PluginVersion.reset();
+
+    const std::string CSV = FOrvOutlinerCSVExporter::GenerateCSV({}, "Untitled Project", "01",
+                                                                 Rig.Editor.World(), Rig.Environment);
+
+    ExpectMatchesGolden(CSV, "Tests/Golden/Outliner/ProductScheduleEmpty.csv");
+    EXPECT_EQ(CSV.find('\r'), std::string::npos);
+}
+
+TEST(FOrvOutlinerCSVExporterTest, FieldsAreQuotedOnlyWhenASpreadsheetNeedsIt)
+{
+    EXPECT_EQ(FOrvOutlinerCSVExporter::EscapeCSVField(""), "");
+    EXPECT_EQ(FOrvOutlinerCSVExporter::EscapeCSVField("Plain text; with 'quotes'"),
+              "Plain text; with 'quotes'");
+    EXPECT_EQ(FOrvOutlinerCSVExporter::EscapeCSVField("a,b"), "\"a,b\"");
+    EXPECT_EQ(FOrvOutlinerCSVExporter::EscapeCSVField("say \"hi\""), "\"say \"\"hi\"\"\"");
+    EXPECT_EQ(FOrvOutlinerCSVExporter::EscapeCSVField("\""), "\"\"\"\"");
+    EXPECT_EQ(FOrvOutlinerCSVExporter::EscapeCSVField("line\nbreak"), "\"line\nbreak\"");
+    EXPECT_EQ(FOrvOutlinerCSVExporter::EscapeCSVField("cr\r"), "\"cr\r\"");
+}
+
+TEST(FOrvOutlinerCSVExporterTest, SaveAsksWhereWithTheScheduleDialogAndAddsTheExtension)
+{
+    FOrvOutlinerRig Rig;
+    Rig.Files.DialogAnswer = std::vector<std::string>{"/Exports/Villa", "/Exports/Ignored.csv"};
+
+    EXPECT_TRUE(FOrvOutlinerCSVExporter::SaveCSVToFile("a,b\n", "Villa_ProductSchedule_R01.csv", Rig.Files,
+                                                       Rig.Environment, Rig.Log));
+
+    EXPECT_EQ(Rig.Files.LastRequest.Title, "Save Product Schedule");
+    EXPECT_EQ(Rig.Files.LastRequest.DefaultPath, "/Projects/Villa/");
+    EXPECT_EQ(Rig.Files.LastRequest.DefaultFile, "Villa_ProductSchedule_R01.csv");
+    EXPECT_EQ(Rig.Files.LastRequest.FileTypes, "CSV Files (*.csv)|*.csv");
+    EXPECT_EQ(Rig.Files.Written, (std::map<std::string, std::string>{{"/Exports/Villa.csv", "a,b\n"}}));
+    EXPECT_TRUE(
+        Rig.Log.Contains(EOrvLogVerbosity::Log, "FOrvOutlinerCSVExporter: Saved CSV to /Exports/Villa.csv"));
+
+    Rig.Files.DialogAnswer = std::vector<std::string>{"/Exports/Upper.CSV"};
+    EXPECT_TRUE(
+        FOrvOutlinerCSVExporter::SaveCSVToFile("x", "Default.csv", Rig.Files, Rig.Environment, Rig.Log));
+    EXPECT_TRUE(Rig.Files.Written.contains("/Exports/Upper.CSV"));
+}
+
+TEST(FOrvOutlinerCSVExporterTest, SaveReportsEveryWayItCanFail)
+{
+    FOrvOutlinerRig Rig;
+
+    Rig.Files.DialogAnswer.reset();
+    EXPECT_FALSE(FOrvOutlinerCSVExporter::SaveCSVToFile("x", "S.csv", Rig.Files, Rig.Environment, Rig.Log));
+    EXPECT_TRUE(Rig.Log.Contains(EOrvLogVerbosity::Log, "FOrvOutlinerCSVExporter: Save dialog cancelled"));
+
+    Rig.Files.DialogAnswer = std::vector<std::string>{};
+    EXPECT_FALSE(FOrvOutlinerCSVExporter::SaveCSVToFile("x", "S.csv", Rig.Files, Rig.Environment, Rig.Log));
+    EXPECT_EQ(Rig.Log.Count("FOrvOutlinerCSVExporter: Save dialog cancelled"), 2);
+
+    Rig.Files.DialogAnswer = std::vector<std::string>{"/ReadOnly/S.csv"};
+    Rig.Files.bFailWrites = true;
+    EXPECT_FALSE(FOrvOutlinerCSVExporter::SaveCSVToFile("x", "S.csv", Rig.Files, Rig.Environment, Rig.Log));
+    EXPECT_TRUE(Rig.Log.Contains(EOrvLogVerbosity::Error,
+                                 "FOrvOutlinerCSVExporter: Failed to save CSV to /ReadOnly/S.csv"));
+
+    Rig.Files.bDesktopPlatform = false;
+    const int DialogsBefore = Rig.Files.DialogsShown;
+    EXPECT_FALSE(FOrvOutlinerCSVExporter::SaveCSVToFile("x", "S.csv", Rig.Files, Rig.Environment, Rig.Log));
+    EXPECT_TRUE(
+        Rig.Log.Contains(EOrvLogVerbosity::Error, "FOrvOutlinerCSVExporter: Desktop platform not available"));
+    EXPECT_EQ(Rig.Files.DialogsShown, DialogsBefore);
+}

@@ -1,0 +1,277 @@
+#pragma once
+
+#include "Core/Json/OrvJson.h"
+#include "Core/Outliner/OrvOutlinerPanelModel.h"
+#include "Core/Outliner/OrvOutlinerScanner.h"
+#include "Host/Editor/OrvMemoryEditor.h"
+#include "Tests/Support/OrvRecordingLog.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+/** @brief A catalogue service that keeps every request until the test answers it. */
+class FOrvFakeCatalogApi : public IOrvCatalogApi
+{
+public:
+    struct FRequest
+    {
+        std::string Path;
+        std::string Body;
+        FOrvApiCallback OnComplete;
+        bool bAnswered = false;
+    };
+
+    void Post(std::string_view Path, std::string JsonBody, FOrvApiCallback OnComplete) override
+    {
+        Requests.push_back({std::string(Path), std::move(JsonBody), std::move(OnComplete)});
+    }
+    std::vector<FOrvCookie> GetCookies() const override { return {}; }
+    void SetCookie(const FOrvCookie&) override {}
+
+    std::size_t PendingCount() const
+    {
+        return static_cast<std::size_t>(std::count_if(
+            Requests.begin(), Requests.end(), [](const FRequest& Request) { return !Request.bAnswered; }));
+    }
+
+    /** Answers the oldest open request with JSON text (null answer when it is not an object). */
+    void Answer(const std::string& JsonText)
+    {
+        auto Document = std::make_shared<rapidjson::Document>();
+        const bool bObject = FOrvJson::ParseObject(JsonText, *Document);
+        Complete(true, bObject ? Document : nullptr);
+    }
+
+    /** Fails the oldest open request. */
+    void Fail() { Complete(false, nullptr); }
+
+private:
+    void Complete(bool bSuccess, std::shared_ptr<const rapidjson::Document> Document)
+    {
+        for (FRequest& Request : Requests)
+        {
+            if (!Request.bAnswered)
+            {
+                Request.bAnswered = true;
+                FOrvApiCallback OnComplete = Request.OnComplete;
+                OnComplete(bSuccess, std::move(Document));
+                return;
+            }
+        }
+        ADD_FAILURE() << "no open catalogue request to answer";
+    }
+
+public:
+    std::vector<FRequest> Requests;
+};
+
+/** @brief Timers on a clock that only the test moves. */
+class FOrvFakeTimers : public IOrvTimers
+{
+public:
+    FOrvTimerHandle SetTimer(double DelaySeconds, std::function<void()> Callback) override
+    {
+        if (!bHasWorld)
+        {
+            return {};
+        }
+        const std::uint64_t Id = ++LastId;
+        Pending[Id] = {Now + DelaySeconds, std::move(Callback)};
+        return {Id};
+    }
+
+    void ClearTimer(FOrvTimerHandle& Handle) override
+    {
+        Pending.erase(Handle.Value);
+        Handle = {};
+    }
+
+    /** Moves the clock on, firing due timers in the order they fall due. */
+    void Advance(double Seconds)
+    {
+        Now += Seconds;
+        for (;;)
+        {
+            auto Due = Pending.end();
+            for (auto It = Pending.begin(); It != Pending.end(); ++It)
+            {
+                if (It->second.DueAt <= Now + 1e-9 &&
+                    (Due == Pending.end() || It->second.DueAt < Due->second.DueAt))
+                {
+                    Due = It;
+                }
+            }
+            if (Due == Pending.end())
+            {
+                return;
+            }
+            std::function<void()> Callback = std::move(Due->second.Callback);
+            Pending.erase(Due);
+            Callback();
+        }
+    }
+
+    std::size_t PendingCount() const { return Pending.size(); }
+
+    bool bHasWorld = true;
+
+private:
+    struct FTimer
+    {
+        double DueAt;
+        std::function<void()> Callback;
+    };
+    std::map<std::uint64_t, FTimer> Pending;
+    std::uint64_t LastId = 0;
+    double Now = 0.0;
+};
+
+class FOrvFakeEditorUi : public IOrvEditorUi
+{
+public:
+    void NavigateWebPanel(std::string_view Url) override { NavigatedUrls.emplace_back(Url); }
+    void SyncContentBrowserToMesh(FOrvMeshRef Mesh) override { SyncedMeshes.push_back(Mesh); }
+    bool IsUserLoggedIn() const override { return bLoggedIn; }
+
+    bool bLoggedIn = true;
+    std::vector<std::string> NavigatedUrls;
+    std::vector<FOrvMeshRef> SyncedMeshes;
+};
+
+/** @brief A save dialog that answers as told, and files kept in memory. */
+class FOrvFakeFiles : public IOrvFiles
+{
+public:
+    bool IsDesktopPlatformAvailable() const override { return bDesktopPlatform; }
+
+    bool SaveFileDialog(const FOrvSaveDialogRequest& Request, std::vector<std::string>& OutFiles) override
+    {
+        ++DialogsShown;
+        LastRequest = Request;
+        if (!DialogAnswer)
+        {
+            return false;
+        }
+        OutFiles = *DialogAnswer;
+        return true;
+    }
+
+    bool SaveStringToFile(std::string_view Text, const std::string& FilePath) override
+    {
+        if (bFailWrites)
+        {
+            return false;
+        }
+        Written[FilePath] = std::string(Text);
+        return true;
+    }
+
+    bool bDesktopPlatform = true;
+    bool bFailWrites = false;
+    std::optional<std::vector<std::string>> DialogAnswer = std::vector<std::string>{"/Exports/Schedule.csv"};
+    int DialogsShown = 0;
+    FOrvSaveDialogRequest LastRequest;
+    std::map<std::string, std::string> Written;
+};
+
+class FOrvFakeEnvironment : public IOrvEnvironment
+{
+public:
+    std::string GetProjectDir() const override { return "/Projects/Villa/"; }
+    std::optional<std::string> FindPluginVersion(std::string_view PluginName) const override
+    {
+        return PluginName == "ORVESSA" ? PluginVersion : std::nullopt;
+    }
+    std::string GetLocalDate() const override { return "2025-03-14"; }
+
+    std::optional<std::string> PluginVersion = "1.2.3";
+};
+
+/** @brief The in-memory editor with catalogue meshes, plus fakes for the rest of the outliner's ports. */
+struct FOrvOutlinerRig
+{
+    FOrvMemoryEditor Editor;
+    FOrvFakeCatalogApi Api;
+    FOrvFakeTimers Timers;
+    FOrvFakeEditorUi Ui;
+    FOrvFakeFiles Files;
+    FOrvFakeEnvironment Environment;
+    FOrvRecordingLog Log;
+
+    /** A catalogue mesh tagged with ProductId. */
+    FOrvMeshRef AddProductMesh(const std::string& AssetName, const std::string& ProductId,
+                               bool bValidTag = true)
+    {
+        return Editor.AddStaticMesh(
+            {"/Game/ORVESSA/Meshes/" + AssetName, {}, FOrvProductTag{ProductId, bValidTag}});
+    }
+
+    /** A mesh without a product tag (walls, floors). */
+    FOrvMeshRef AddPlainMesh(const std::string& AssetName)
+    {
+        return Editor.AddStaticMesh({"/Game/Architecture/" + AssetName, {}, std::nullopt});
+    }
+
+    FOrvActorRef AddActor(std::vector<FOrvMeshRef> Components)
+    {
+        FOrvMemoryActorDesc Desc;
+        Desc.StaticMeshComponents = std::move(Components);
+        return Editor.AddActor(Desc);
+    }
+
+    std::vector<FOrvActorRef> AddActors(FOrvMeshRef Mesh, int Count)
+    {
+        std::vector<FOrvActorRef> Actors;
+        for (int Index = 0; Index < Count; ++Index)
+        {
+            Actors.push_back(AddActor({Mesh}));
+        }
+        return Actors;
+    }
+
+    void Destroy(FOrvActorRef Actor) { Editor.Editing().EditorDestroyActor(Actor); }
+
+    FOrvOutlinerScannerPorts ScannerPorts() { return {Editor.World(), Editor.Meshes(), Api, Log}; }
+
+    FOrvOutlinerPanelPorts PanelPorts()
+    {
+        return {Editor.World(),
+                Editor.LevelEvents(),
+                Editor.Meshes(),
+                Api,
+                Editor.Selection(),
+                Editor.Editing(),
+                Timers,
+                Ui,
+                Files,
+                Environment,
+                Log};
+    }
+};
+
+/** @brief One catalogue record as the batch answer carries it. */
+inline std::string OrvTestRecord(const std::string& Id, const std::string& Brand, const std::string& Name,
+                                 const std::string& Category, const std::string& MacroCategory = "")
+{
+    return "{\"id\":\"" + Id + "\",\"name\":\"" + Name + "\",\"brand\":\"" + Brand + "\",\"category\":\"" +
+           Category + "\",\"category_t2\":\"" + MacroCategory + "\"}";
+}
+
+/** @brief A batch answer with status true, products keyed by id as the service sends them. */
+inline std::string OrvTestAnswer(const std::vector<std::pair<std::string, std::string>>& IdAndRecord,
+                                 const std::string& MissingJsonArray = "[]")
+{
+    std::string Products;
+    for (const auto& [Id, Record] : IdAndRecord)
+    {
+        Products += (Products.empty() ? "\"" : ",\"") + Id + "\":" + Record;
+    }
+    return "{\"status\":true,\"products\":{" + Products + "},\"missing\":" + MissingJsonArray + "}";
+}
