@@ -80,6 +80,11 @@ const FOrvMemoryActor* FOrvMemoryEditor::FindActorByName(const std::string& Name
     return State->Context.Level.FindByName(Name);
 }
 
+const FOrvMemoryMeshDesc* FOrvMemoryEditor::FindMesh(FOrvMeshRef Mesh) const
+{
+    return State->Context.Assets.FindMesh(Mesh);
+}
+
 std::vector<FOrvMemoryMeshDesc> FOrvMemoryEditor::GetMeshes() const
 {
     return State->Context.Assets.GetMeshes();

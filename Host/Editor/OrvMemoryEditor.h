@@ -94,7 +94,9 @@ public:
     std::vector<const FOrvMemoryActor*> GetLevelActors() const; ///< in iterator order
     const FOrvMemoryActor* FindActor(FOrvActorRef Actor) const;
     const FOrvMemoryActor* FindActorByName(const std::string& Name) const; ///< exact name
-    std::vector<FOrvMemoryMeshDesc> GetMeshes() const;                     ///< in registration order
+    const FOrvMemoryMeshDesc*
+    FindMesh(FOrvMeshRef Mesh) const;                  ///< null for a ref the editor did not hand out
+    std::vector<FOrvMemoryMeshDesc> GetMeshes() const; ///< in registration order
     std::vector<FOrvAssetData> GetNonMeshAssets() const;
     std::vector<FOrvAssetData> GetRegisteredAssets() const; ///< meshes and others, in registry order
     std::optional<FOrvMemoryViewportDesc> GetViewport() const;
