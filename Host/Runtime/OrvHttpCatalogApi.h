@@ -33,7 +33,11 @@ public:
     std::vector<FOrvCookie> GetCookies() const override;
     void SetCookie(const FOrvCookie& Cookie) override;
 
-private:
+    /** Why the last request failed, for messages ("/orvvault/products/batch: cannot connect: ..."). */
+    std::string GetLastError() const;
+
     struct FState;
+
+private:
     std::shared_ptr<FState> State;
 };

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace boost::asio
+{
+    class io_context;
+}
+
+/** @brief One request the test catalogue service received. */
+struct FOrvTestCatalogRequest
+{
+    std::string Method;
+    std::string Target;
+    std::string ContentType;
+    std::string Cookie; ///< the Cookie header, empty when none
+    std::string Body;
+};
+
+/** @brief What the test catalogue service answers. */
+struct FOrvTestCatalogAnswer
+{
+    int Status = 200;
+    std::string ContentType = "application/json";
+    std::string Body = R"({"status":true,"products":{}})";
+    std::vector<std::pair<std::string, std::string>> Headers; ///< e.g. Set-Cookie, in order
+    double DelaySeconds = 0.0;                                ///< wait this long before answering
+};
+
+/**
+ * @brief A small catalogue service on 127.0.0.1 (OS-chosen port) for client tests. It runs on the
+ * given io_context, so it answers while the test pumps the host's event loop; it records every request.
+ */
+class FOrvTestCatalogService
+{
+public:
+    using FAnswerFunction = std::function<FOrvTestCatalogAnswer(const FOrvTestCatalogRequest& Request)>;
+
+    FOrvTestCatalogService(boost::asio::io_context& Context, FAnswerFunction Answer);
+    ~FOrvTestCatalogService();
+    FOrvTestCatalogService(const FOrvTestCatalogService&) = delete;
+    FOrvTestCatalogService& operator=(const FOrvTestCatalogService&) = delete;
+
+    std::uint16_t GetPort() const;
+
+    /** "http://127.0.0.1:PORT" */
+    std::string GetBaseUrl() const;
+
+    const std::vector<FOrvTestCatalogRequest>& GetRequests() const;
+
+    struct FState;
+
+private:
+    std::shared_ptr<FState> State;
+};
