@@ -1,0 +1,118 @@
+#include "Host/Catalog/OrvOfflineCatalogApi.h"
+#include "Tests/Support/OrvManualGameThread.h"
+#include "Tests/Unit/Outliner/OrvOutlinerTestRig.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+    constexpr const char* CatalogText = R"({"products":[
+        {"id":"P-LC2","name":"LC2","brand":"Cassina","category":"Armchairs","category_t2":"Seating",
+         "designer":"Le Corbusier","weight":32},
+        {"id":"P-ARCO","name":"Arco","brand":"Flos","category":"Floor Lamps","collection":null}
+    ]})";
+
+    struct FAnswer
+    {
+        int Calls = 0;
+        bool bSuccess = false;
+        std::shared_ptr<const rapidjson::Document> Document;
+
+        FOrvApiCallback Callback()
+        {
+            return [this](bool bInSuccess, std::shared_ptr<const rapidjson::Document> InDocument)
+            {
+                ++Calls;
+                bSuccess = bInSuccess;
+                Document = std::move(InDocument);
+            };
+        }
+    };
+} // namespace
+
+TEST(FOrvOfflineCatalogApiTest, BatchAnswersFoundAndMissingIdsLaterOnTheGameThread)
+{
+    FOrvManualGameThread GameThread;
+    FOrvOfflineCatalogApi Api(GameThread);
+    ASSERT_TRUE(Api.LoadText(CatalogText, "catalog.json").bOk);
+    FAnswer Answer;
+
+    Api.Post("/orvvault/products/batch", R"({"product_ids":["P-ARCO","P-NOPE","P-ARCO",7]})",
+             Answer.Callback());
+    EXPECT_EQ(Answer.Calls, 0);
+    GameThread.RunPending();
+
+    ASSERT_EQ(Answer.Calls, 1);
+    ASSERT_TRUE(Answer.bSuccess && Answer.Document);
+    const rapidjson::Document& Document = *Answer.Document;
+    EXPECT_TRUE(Document["status"].GetBool());
+    ASSERT_EQ(Document["products"].MemberCount(), 1u);
+    EXPECT_STREQ(Document["products"]["P-ARCO"]["brand"].GetString(), "Flos");
+    ASSERT_EQ(Document["missing"].Size(), 1u);
+    EXPECT_STREQ(Document["missing"][0].GetString(), "P-NOPE");
+}
+
+TEST(FOrvOfflineCatalogApiTest, OtherPathsAndBadBodiesDoNotGiveProducts)
+{
+    FOrvManualGameThread GameThread;
+    FOrvOfflineCatalogApi Api(GameThread);
+    ASSERT_TRUE(Api.LoadText(CatalogText, "catalog.json").bOk);
+    FAnswer Unknown;
+    FAnswer BadBody;
+
+    Api.Post("/orvvault/library", "{}", Unknown.Callback());
+    Api.Post("/orvvault/products/batch", "{\"product_ids\":\"P-LC2\"}", BadBody.Callback());
+    GameThread.RunPending();
+
+    EXPECT_EQ(Unknown.Calls, 1);
+    EXPECT_FALSE(Unknown.bSuccess);
+    EXPECT_EQ(Unknown.Document, nullptr);
+    ASSERT_TRUE(BadBody.bSuccess && BadBody.Document);
+    EXPECT_FALSE((*BadBody.Document)["status"].GetBool());
+}
+
+TEST(FOrvOfflineCatalogApiTest, ScannerCompletesProductsFromTheOfflineFile)
+{
+    FOrvOutlinerRig Rig;
+    Rig.AddActors(Rig.AddProductMesh("SM_LC2", "P-LC2"), 2);
+    Rig.AddActors(Rig.AddProductMesh("SM_Gone", "P-GONE"), 1);
+    FOrvManualGameThread GameThread;
+    FOrvOfflineCatalogApi Api(GameThread);
+    ASSERT_TRUE(Api.LoadText(CatalogText, "catalog.json").bOk);
+    FOrvOutlinerScanner Scanner({Rig.Editor.World(), Rig.Editor.Meshes(), Api, Rig.Log});
+    int Completions = 0;
+
+    Scanner.ScanScene([&](const FOrvOutlinerTreeItems&) { ++Completions; });
+    GameThread.RunPending();
+
+    EXPECT_EQ(Completions, 1);
+    const FOrvSceneProduct& Lc2 = *Scanner.GetSceneProducts().Find("P-LC2");
+    EXPECT_EQ(Lc2.CategoryT2, "Seating");
+    EXPECT_EQ(Lc2.Weight, "32");
+    EXPECT_TRUE(
+        Rig.Log.Contains(EOrvLogVerbosity::Warning, "OrvOutlinerScanner: Product not found in API: P-GONE"));
+}
+
+TEST(FOrvOfflineCatalogApiTest, MalformedCataloguesAreRefusedWithWhereAndWhy)
+{
+    FOrvManualGameThread GameThread;
+    FOrvOfflineCatalogApi Api(GameThread);
+    const auto ErrorOf = [&](const std::string& Text) { return Api.LoadText(Text, "cat.json").Error; };
+
+    EXPECT_EQ(ErrorOf("{\"products\":[\n  {\"id\":\"A\" \"name\":\"x\"}]}"),
+              "cat.json: line 2, column 13: Missing a comma or '}' after an object member.");
+    EXPECT_EQ(ErrorOf("{\"items\":[]}"),
+              "cat.json: expected an object with a \"products\" array, or an array of product records");
+    EXPECT_EQ(ErrorOf("[{\"id\":\"A\"},{\"name\":\"B\"}]"), "cat.json: [1].id: expected a non-empty string");
+    EXPECT_EQ(ErrorOf("{\"products\":[{\"id\":\"A\",\"brand\":[\"x\"]}]}"),
+              "cat.json: products[0].brand: expected a string");
+    EXPECT_EQ(ErrorOf("{\"products\":[{\"id\":\"A\"},7]}"),
+              "cat.json: products[1]: expected a product record (an object)");
+    EXPECT_EQ(ErrorOf("{\"products\":[{\"id\":\"A\"},{\"id\":\"B\"},{\"id\":\"A\"}]}"),
+              "cat.json: products[2].id: \"A\" repeats products[0]");
+    EXPECT_EQ(Api.GetProductCount(), 0u) << "a refused file leaves no records behind";
+    EXPECT_EQ(Api.LoadFile("/nonexistent/cat.json").Error, "/nonexistent/cat.json: cannot be read");
+
+    EXPECT_TRUE(Api.LoadText("[{\"id\":\"A\"},{\"id\":\"B\"}]", "bare.json").bOk);
+    EXPECT_EQ(Api.GetProductCount(), 2u);
+}
