@@ -1,0 +1,134 @@
+#include "Tests/Support/OrvToolTestRig.h"
+
+#include "Core/Json/OrvJson.h"
+#include "Core/Json/OrvJsonWriter.h"
+
+#include <limits>
+#include <ostream>
+
+namespace
+{
+    std::string OrvRigRequest(std::string_view Name, std::string_view ArgumentsJson)
+    {
+        std::string Body = R"({"jsonrpc":"2.0","id":7,"method":"tools/call","params":{"name":")";
+        OrvAppendJsonEscaped(Body, Name);
+        Body += '"';
+        if (!ArgumentsJson.empty())
+        {
+            Body += R"(,"arguments":)";
+            Body += ArgumentsJson;
+        }
+        Body += "}}";
+        return Body;
+    }
+
+    std::string OrvRigString(const rapidjson::Value& Object, const char* Key)
+    {
+        return FOrvJson::GetStringField(Object, Key);
+    }
+} // namespace
+
+rapidjson::Document FOrvToolReply::Json() const
+{
+    rapidjson::Document Document;
+    Document.Parse(Text.data(), Text.size());
+    return Document;
+}
+
+FOrvToolTestRig::FOrvToolTestRig(EOrvRigViewport ViewportKind)
+{
+    IOrvViewport& Viewport =
+        ViewportKind == EOrvRigViewport::Fake ? static_cast<IOrvViewport&>(FakeViewport) : Editor.Viewport();
+    const FOrvMcpPorts Ports{Editor.World(),  Editor.Editing(), Editor.Transactions(),
+                             Editor.Assets(), Editor.Meshes(),  Viewport,
+                             Images,          GameThread,       Log};
+    Handler = std::make_unique<FOrvMcpHandler>(Ports);
+}
+
+void FOrvToolTestRig::CallLater(std::string_view Name, std::string_view ArgumentsJson,
+                                std::vector<std::string>& OutResponses)
+{
+    Handler->HandleRequest(OrvRigRequest(Name, ArgumentsJson),
+                           [&OutResponses](std::string Text) { OutResponses.push_back(std::move(Text)); });
+}
+
+FOrvToolReply FOrvToolTestRig::Call(std::string_view Name, std::string_view ArgumentsJson)
+{
+    std::vector<std::string> Responses;
+    CallLater(Name, ArgumentsJson, Responses);
+    FOrvToolReply Reply;
+    Reply.bAnsweredBeforePump = !Responses.empty();
+    GameThread.RunPending();
+    if (Responses.empty())
+    {
+        return Reply;
+    }
+    const bool bAnsweredBeforePump = Reply.bAnsweredBeforePump;
+    Reply = FOrvToolReply::Parse(Responses.front());
+    Reply.bAnsweredBeforePump = bAnsweredBeforePump;
+    Reply.ResponseCount = static_cast<int>(Responses.size());
+    return Reply;
+}
+
+FOrvToolReply FOrvToolReply::Parse(std::string Envelope)
+{
+    FOrvToolReply Reply;
+    Reply.ResponseCount = 1;
+    Reply.Envelope = std::move(Envelope);
+    rapidjson::Document Document;
+    if (!FOrvJson::ParseObject(Reply.Envelope, Document))
+    {
+        return Reply;
+    }
+    const rapidjson::Value* Result = FOrvJson::TryGetObjectField(Document, "result");
+    const rapidjson::Value* Content = Result ? FOrvJson::TryGetArrayField(*Result, "content") : nullptr;
+    if (!Content || Content->Size() != 1 || !(*Content)[0].IsObject())
+    {
+        return Reply;
+    }
+    const rapidjson::Value& Block = (*Content)[0];
+    Reply.Type = OrvRigString(Block, "type");
+    Reply.Text = OrvRigString(Block, Reply.Type == "image" ? "data" : "text");
+    Reply.MimeType = OrvRigString(Block, "mimeType");
+    return Reply;
+}
+
+FOrvMeshRef FOrvToolTestRig::AddCatalogMesh(const std::string& Folder, const std::string& Name,
+                                            const std::string& ProductId, const FOrvBox& Bounds)
+{
+    FOrvMemoryMeshDesc Mesh;
+    Mesh.PackageName = "/Game/ORVESSA/" + Folder + "/" + Name;
+    Mesh.Bounds = Bounds;
+    if (!ProductId.empty())
+    {
+        Mesh.Tag = FOrvProductTag{ProductId, true};
+    }
+    return Editor.AddStaticMesh(Mesh);
+}
+
+FOrvActorRef FOrvToolTestRig::AddMeshActor(FOrvMeshRef Mesh, const FOrvTransform& Transform,
+                                           const std::string& Label)
+{
+    FOrvMemoryActorDesc Actor;
+    Actor.Label = Label;
+    Actor.Transform = Transform;
+    Actor.StaticMeshComponents = {Mesh};
+    return Editor.AddActor(Actor);
+}
+
+FOrvTriple OrvReadTriple(const rapidjson::Value& Object, const char* Key)
+{
+    const double NaN = std::numeric_limits<double>::quiet_NaN();
+    const rapidjson::Value* Array = FOrvJson::TryGetArrayField(Object, Key);
+    if (!Array || Array->Size() != 3 || !(*Array)[0].IsNumber() || !(*Array)[1].IsNumber() ||
+        !(*Array)[2].IsNumber())
+    {
+        return {NaN, NaN, NaN};
+    }
+    return {(*Array)[0].GetDouble(), (*Array)[1].GetDouble(), (*Array)[2].GetDouble()};
+}
+
+std::ostream& operator<<(std::ostream& Stream, const FOrvTriple& Triple)
+{
+    return Stream << '[' << Triple.A << ", " << Triple.B << ", " << Triple.C << ']';
+}

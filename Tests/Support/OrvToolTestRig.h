@@ -1,0 +1,83 @@
+#pragma once
+
+#include "Core/Mcp/OrvMcpHandler.h"
+#include "Host/Editor/OrvMemoryEditor.h"
+#include "Tests/Support/OrvFakeCapturePorts.h"
+#include "Tests/Support/OrvManualGameThread.h"
+#include "Tests/Support/OrvRecordingLog.h"
+
+#include <rapidjson/document.h>
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+/** @brief The one content block a tools/call answered with, as a client reads it. */
+struct FOrvToolReply
+{
+    int ResponseCount = 0;            ///< responses received; the contract is exactly one
+    bool bAnsweredBeforePump = false; ///< a response arrived before the game thread ran
+    std::string Type;                 ///< "text" or "image"; empty when the answer was no tool result
+    std::string Text;                 ///< the text, or the image's Base64 data
+    std::string MimeType;             ///< images only
+    std::string Envelope;             ///< the whole response text
+
+    /** The text parsed as JSON (structured results and error objects). */
+    rapidjson::Document Json() const;
+
+    /** The block of one tools/call response envelope; Type stays empty when it holds no single block. */
+    static FOrvToolReply Parse(std::string Envelope);
+};
+
+/** @brief Which viewport the tools see: the in-memory editor's, or a fake a test sets up. */
+enum class EOrvRigViewport
+{
+    Editor,
+    Fake,
+};
+
+/**
+ * @brief The editor tools behind a real handler: an in-memory editor, a game thread pumped by hand, a
+ * fake JPEG encoder and (optionally) a fake viewport. Calls go through HandleRequest as tools/call.
+ */
+class FOrvToolTestRig
+{
+public:
+    explicit FOrvToolTestRig(EOrvRigViewport ViewportKind = EOrvRigViewport::Editor);
+
+    /** Sends tools/call with Name and ArgumentsJson (an object text, or empty for none), pumps, reads the
+     * block. */
+    FOrvToolReply Call(std::string_view Name, std::string_view ArgumentsJson = "{}");
+
+    /** Sends tools/call without pumping; the game thread must be run by the test. */
+    void CallLater(std::string_view Name, std::string_view ArgumentsJson,
+                   std::vector<std::string>& OutResponses);
+
+    /** Adds a catalogue mesh "/Game/ORVESSA/<Folder>/<Name>" with a valid product tag ProductId (none when
+     * empty). */
+    FOrvMeshRef AddCatalogMesh(const std::string& Folder, const std::string& Name,
+                               const std::string& ProductId,
+                               const FOrvBox& Bounds = {{-50, -25, 0}, {50, 25, 90}});
+
+    /** Places a static mesh actor with Mesh and returns its ref. */
+    FOrvActorRef AddMeshActor(FOrvMeshRef Mesh, const FOrvTransform& Transform = {},
+                              const std::string& Label = {});
+
+    FOrvMemoryEditor Editor;
+    FOrvManualGameThread GameThread;
+    FOrvRecordingLog Log;
+    FOrvFakeViewport FakeViewport;
+    FOrvFakeImageWrapperModule Images;
+    std::unique_ptr<FOrvMcpHandler> Handler;
+};
+
+/** @brief Reads a JSON [a, b, c] array member into a triple for EXPECT_EQ; NaNs when it is not one. */
+struct FOrvTriple
+{
+    double A = 0;
+    double B = 0;
+    double C = 0;
+    friend bool operator==(const FOrvTriple&, const FOrvTriple&) = default;
+};
+FOrvTriple OrvReadTriple(const rapidjson::Value& Object, const char* Key);
+std::ostream& operator<<(std::ostream& Stream, const FOrvTriple& Triple);
