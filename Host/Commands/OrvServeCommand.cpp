@@ -1,9 +1,52 @@
 #include "Host/OrvHostCommands.h"
 
-#include <cstdio>
+#include "Core/Ports/IOrvImageWrapper.h"
+#include "Host/Editor/OrvDemoScene.h"
+#include "Host/Editor/OrvMemoryEditor.h"
+#include "Host/Editor/OrvSceneFile.h"
+#include "Host/Runtime/OrvConsoleLog.h"
+#include "Host/Runtime/OrvHostEventLoop.h"
+#include "Host/Runtime/OrvServeSession.h"
 
-int RunServeCommand(const FOrvServeOptions&)
+#include <cstdio>
+#include <string>
+#include <unistd.h>
+
+namespace
 {
-    std::fprintf(stderr, "orv-host serve: not available in this build yet\n");
-    return 2;
+    class FOrvNoJpeg : public IOrvImageWrapperModule
+    {
+    public:
+        std::unique_ptr<IOrvImageWrapper> CreateJpegWrapper() override { return nullptr; }
+    };
+} // namespace
+
+int RunServeCommand(const FOrvServeOptions& Options)
+{
+    FOrvMemoryEditor Editor;
+    const FOrvSceneFileResult Loaded =
+        Options.SceneFile.empty()
+            ? FOrvSceneFile::LoadText(std::string(FOrvDemoScene::SceneJson()), "demo scene", Editor)
+            : FOrvSceneFile::Load(Options.SceneFile, Editor);
+    if (!Loaded.bOk)
+    {
+        std::fprintf(stderr, "orv-host serve: %s\n", Loaded.Error.c_str());
+        return 1;
+    }
+
+    FOrvConsoleLog Log(Options.bVerbose);
+    FOrvHostEventLoop Loop;
+    FOrvNoJpeg Jpeg;
+    FOrvServeSession Session(Loop, Editor, Jpeg, Log, Options.SceneFile);
+    std::string Error;
+    if (!Session.Start(Options.Port, Error))
+    {
+        std::fprintf(stderr, "orv-host serve: %s\n", Error.c_str());
+        return 1;
+    }
+    if (!Options.bNoConsole)
+    {
+        Session.StartConsole(STDIN_FILENO);
+    }
+    return Session.Run();
 }

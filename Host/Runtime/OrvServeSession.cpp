@@ -1,0 +1,83 @@
+#include "Host/Runtime/OrvServeSession.h"
+
+#include "Host/Editor/OrvMemoryEditor.h"
+#include "Host/Runtime/OrvHostEventLoop.h"
+
+#include <csignal>
+#include <unistd.h>
+
+namespace
+{
+    FOrvMcpPorts MakePorts(FOrvMemoryEditor& Editor, IOrvImageWrapperModule& Images, FOrvHostEventLoop& Loop,
+                           IOrvLog& Log)
+    {
+        return FOrvMcpPorts{Editor.World(),  Editor.Editing(),  Editor.Transactions(),
+                            Editor.Assets(), Editor.Meshes(),   Editor.Viewport(),
+                            Images,          Loop.GameThread(), Log};
+    }
+} // namespace
+
+FOrvServeSession::FOrvServeSession(FOrvHostEventLoop& InLoop, FOrvMemoryEditor& InEditor,
+                                   IOrvImageWrapperModule& Images, IOrvLog& Log, std::string SceneFile)
+    : Loop(InLoop), Editor(InEditor), Endpoint(InLoop, MakePorts(InEditor, Images, InLoop, Log), Log),
+      Console(InEditor, std::move(SceneFile), [this] { Loop.Stop(); }),
+      Input(
+          InLoop, [this](const std::string& Line) { OnConsoleLine(Line); }, [] {})
+{
+}
+
+FOrvServeSession::~FOrvServeSession() = default;
+
+bool FOrvServeSession::Start(std::uint32_t Port, std::string& Error)
+{
+    // Output to a closed pipe must fail as a write error, not end the host.
+    std::signal(SIGPIPE, SIG_IGN);
+    if (!Endpoint.Start(Port, Error))
+    {
+        return false;
+    }
+    Signals = std::make_unique<FOrvStopSignals>(Loop, [this](int) { Loop.Stop(); });
+    Print("Serving MCP on " + Endpoint.GetMcpUrl() + "\n");
+    return true;
+}
+
+bool FOrvServeSession::StartConsole(int InputFd)
+{
+    if (!Input.Start(InputFd))
+    {
+        return false;
+    }
+    bPrompt = isatty(InputFd) && isatty(STDOUT_FILENO);
+    Print(std::string("Console ready: type help for the commands.\n") + (bPrompt ? "orv> " : ""));
+    return true;
+}
+
+int FOrvServeSession::Run()
+{
+    Loop.Run();
+    Input.Stop();
+    Signals.reset();
+    Endpoint.Stop();
+    if (Editor.IsDirty())
+    {
+        std::fprintf(stderr, "orv-host: the level's unsaved changes were discarded.\n");
+    }
+    return 0;
+}
+
+void FOrvServeSession::OnConsoleLine(const std::string& Line)
+{
+    std::string Text = Console.Execute(Line);
+    if (bPrompt)
+    {
+        Text += "orv> ";
+    }
+    Print(Text);
+}
+
+void FOrvServeSession::Print(const std::string& Text)
+{
+    std::fwrite(Text.data(), 1, Text.size(), stdout);
+    // Tests and other programs read the URL and the console's answers through a pipe.
+    std::fflush(stdout);
+}

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "Host/Runtime/OrvConsoleInput.h"
+#include "Host/Runtime/OrvHostMcpEndpoint.h"
+#include "Host/Runtime/OrvServeConsole.h"
+#include "Host/Runtime/OrvStopSignals.h"
+
+#include <cstdint>
+#include <cstdio>
+#include <memory>
+#include <string>
+
+class FOrvHostEventLoop;
+class FOrvMemoryEditor;
+class IOrvImageWrapperModule;
+
+/**
+ * @brief One run of "orv-host serve" once the level is loaded: the MCP endpoint, the console on standard
+ * input and the stop signals, all on the event loop, until quit, Ctrl+C or SIGTERM.
+ */
+class FOrvServeSession
+{
+public:
+    FOrvServeSession(FOrvHostEventLoop& InLoop, FOrvMemoryEditor& InEditor, IOrvImageWrapperModule& Images,
+                     IOrvLog& Log, std::string SceneFile);
+    ~FOrvServeSession();
+    FOrvServeSession(const FOrvServeSession&) = delete;
+    FOrvServeSession& operator=(const FOrvServeSession&) = delete;
+
+    /** Starts serving on Port and prints the URL line; false with a message for the user in Error. */
+    bool Start(std::uint32_t Port, std::string& Error);
+
+    /** Reads console commands from InputFd (standard input); false when it cannot be read. */
+    bool StartConsole(int InputFd);
+
+    /** Runs the loop until quit or a stop signal, then stops the endpoint; the exit code. */
+    int Run();
+
+    FOrvServeConsole& GetConsole() { return Console; }
+    FOrvHostMcpEndpoint& GetEndpoint() { return Endpoint; }
+
+private:
+    void OnConsoleLine(const std::string& Line);
+    void Print(const std::string& Text);
+
+    FOrvHostEventLoop& Loop;
+    FOrvMemoryEditor& Editor;
+    FOrvHostMcpEndpoint Endpoint;
+    FOrvServeConsole Console;
+    FOrvConsoleInput Input;
+    std::unique_ptr<FOrvStopSignals> Signals;
+    bool bPrompt = false;
+};

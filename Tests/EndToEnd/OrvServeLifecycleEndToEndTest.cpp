@@ -1,0 +1,94 @@
+#include "Tests/Support/OrvServedHost.h"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+namespace
+{
+    constexpr double ExitTimeoutSeconds = 10.0;
+    constexpr const char* StoppedLine = "LogOrvMcp: Orv MCP: server stopped";
+} // namespace
+
+TEST(FOrvServeLifecycleEndToEndTest, StopSignalsEndTheHostCleanly)
+{
+    for (const int Signal : {SIGTERM, SIGINT})
+    {
+        FOrvServedHost Host;
+        std::string Error;
+        ASSERT_TRUE(Host.Start(ORV_HOST_EXECUTABLE, {}, Error)) << Error;
+        Host.Process().Signal(Signal);
+        EXPECT_EQ(Host.Process().WaitForExit(ExitTimeoutSeconds), 0) << "signal " << Signal;
+        EXPECT_NE(Host.Process().GetErrors().find(StoppedLine), std::string::npos)
+            << Host.Process().GetErrors();
+    }
+}
+
+TEST(FOrvServeLifecycleEndToEndTest, QuitAsksOnceWhenTheLevelHasUnsavedChanges)
+{
+    FOrvServedHost Host;
+    std::string Error;
+    ASSERT_TRUE(Host.Start(ORV_HOST_EXECUTABLE, {}, Error)) << Error;
+    const FOrvToolCallReply Spawned = Host.CallTool("ue_spawn_product", R"({"asset_path":"SM_Chair"})");
+    ASSERT_TRUE(Spawned.Json && Spawned.ErrorCode().empty()) << Spawned.Http.Body;
+
+    EXPECT_EQ(Host.Console("quit"),
+              "The level has unsaved changes. Type quit again to leave without saving, or save first.");
+    EXPECT_EQ(Host.Client().Get("/health").Status, 200) << "still serving after the warning";
+    EXPECT_EQ(Host.Console("quit"), "Bye.");
+    EXPECT_EQ(Host.Process().WaitForExit(ExitTimeoutSeconds), 0);
+}
+
+TEST(FOrvServeLifecycleEndToEndTest, NoConsoleIgnoresStandardInput)
+{
+    FOrvServedHost Host;
+    std::string Error;
+    ASSERT_TRUE(Host.Start(ORV_HOST_EXECUTABLE, {"--no-console"}, Error)) << Error;
+    Host.Process().Write("quit\n");
+    Host.Process().CloseInput();
+    EXPECT_FALSE(Host.Process().WaitForExit(0.3).has_value());
+    EXPECT_EQ(Host.Client().Get("/health").Status, 200);
+}
+
+TEST(FOrvServeLifecycleEndToEndTest, BusyPortExitsWithAHintBeforeServing)
+{
+    FOrvServedHost First;
+    std::string Error;
+    ASSERT_TRUE(First.Start(ORV_HOST_EXECUTABLE, {"--no-console"}, Error)) << Error;
+
+    FOrvHostProcess Second;
+    const std::string Port = std::to_string(First.GetPort());
+    ASSERT_TRUE(Second.Start(ORV_HOST_EXECUTABLE, {"serve", "--port", Port, "--no-console"}, Error)) << Error;
+    const std::optional<int> Code = Second.WaitForExit(ExitTimeoutSeconds);
+    ASSERT_TRUE(Code.has_value());
+    EXPECT_NE(*Code, 0);
+    EXPECT_NE(Second.GetErrors().find("port " + Port + " is already in use; pick another with --port"),
+              std::string::npos)
+        << Second.GetErrors();
+    EXPECT_EQ(Second.GetOutput().find("Serving MCP"), std::string::npos);
+    EXPECT_EQ(First.Client().Get("/health").Status, 200) << "the first host keeps serving";
+}
+
+TEST(FOrvServeLifecycleEndToEndTest, MalformedSceneFileIsReportedBeforeAnythingStarts)
+{
+    const std::filesystem::path File =
+        std::filesystem::temp_directory_path() / ("orv-e2e-broken-" + std::to_string(getpid()) + ".json");
+    {
+        std::ofstream Out(File);
+        Out << R"({"actors": [ {"name": )";
+    }
+    FOrvHostProcess Host;
+    std::string Error;
+    ASSERT_TRUE(Host.Start(ORV_HOST_EXECUTABLE, {"serve", "--port", "0", "--scene", File.string()}, Error))
+        << Error;
+    const std::optional<int> Code = Host.WaitForExit(ExitTimeoutSeconds);
+    std::filesystem::remove(File);
+    ASSERT_TRUE(Code.has_value());
+    EXPECT_NE(*Code, 0);
+    EXPECT_NE(Host.GetErrors().find(File.filename().string()), std::string::npos) << Host.GetErrors();
+    EXPECT_EQ(Host.GetOutput().find("Serving MCP"), std::string::npos);
+    EXPECT_EQ(Host.GetErrors().find("listening"), std::string::npos);
+}

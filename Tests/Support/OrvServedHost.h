@@ -1,0 +1,62 @@
+#pragma once
+
+#include "Tests/Support/OrvHostProcess.h"
+#include "Tests/Support/OrvTestHttpClient.h"
+
+#include <rapidjson/document.h>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/** @brief What a tools/call answered: the envelope and its one content block. */
+struct FOrvToolCallReply
+{
+    FOrvTestHttpReply Http;
+    std::shared_ptr<rapidjson::Document> Envelope; ///< null when the body was not JSON
+    std::string Type;                              ///< "text" or "image"
+    std::string Text;                              ///< text block's text, or image's Base64 data
+    std::string MimeType;
+    std::shared_ptr<rapidjson::Document> Json; ///< Text parsed as JSON when it is (structured results)
+
+    /** The structured result's "error" code word; empty when it is not an error. */
+    std::string ErrorCode() const;
+};
+
+/**
+ * @brief "orv-host serve --port 0" running as a child process, with an HTTP client on the port that
+ * its URL line names. For end-to-end tests.
+ */
+class FOrvServedHost
+{
+public:
+    FOrvServedHost();
+    ~FOrvServedHost();
+
+    /** Starts the host with extra serve arguments and waits for its URL line; false with Error. */
+    bool Start(const std::string& Executable, const std::vector<std::string>& ExtraArgs, std::string& Error);
+
+    std::uint16_t GetPort() const { return Port; }
+    FOrvHostProcess& Process() { return Child; }
+    FOrvTestHttpClient& Client() { return *HttpClient; }
+
+    /** POSTs a JSON-RPC body to a path and parses the envelope; null when the answer is not JSON. */
+    std::shared_ptr<rapidjson::Document> Rpc(std::string_view Path, std::string_view Body,
+                                             FOrvTestHttpReply* OutReply = nullptr);
+
+    /** tools/call with an arguments object written as JSON text. */
+    FOrvToolCallReply CallTool(std::string_view Name, std::string_view ArgumentsJson = "{}");
+
+    /** Writes a console command and returns the console's first answer line. */
+    std::string Console(std::string_view Command);
+
+private:
+    struct FContext;
+    std::unique_ptr<FContext> Context;
+    FOrvHostProcess Child;
+    std::unique_ptr<FOrvTestHttpClient> HttpClient;
+    std::uint16_t Port = 0;
+    int NextId = 1;
+};
