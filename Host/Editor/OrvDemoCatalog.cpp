@@ -210,9 +210,9 @@ std::string_view FOrvDemoScene::CatalogJson()
       "category_t2": "Lighting",
       "collection": "Nuvola",
       "designer": "Paolo Greco",
-      "dimensions": "Ø 60 x H 120 cm",
+      "dimensions": "Ø 50 x H 60 cm",
       "weight": "3.4 kg",
-      "description": "Pendant lamp with a cloud-like silk shade; height includes the adjustable cable.",
+      "description": "Pendant lamp with a cloud-like silk shade on an adjustable textile cable.",
       "website": "https://www.officinaluce.example/nuvola/sospensione"
     },
     {

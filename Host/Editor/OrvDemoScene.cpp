@@ -32,7 +32,7 @@ std::string_view FOrvDemoScene::SceneJson()
         {"path": "/Game/ORVESSA/CasaVetro/Anfora/Meshes/SM_Vase", "bounds": {"min": [-12, -12, 0], "max": [12, 12, 40]}, "tag": {"id": "CVT-VS-0033", "valid": true}},
         {"path": "/Game/ORVESSA/OfficinaLuce/Stelo/Meshes/SM_FloorLamp", "bounds": {"min": [-18, -18, 0], "max": [18, 18, 165]}, "tag": {"id": "OFL-FL-0707", "valid": true}},
         {"path": "/Game/ORVESSA/OfficinaLuce/Goccia/Meshes/SM_WallLamp", "bounds": {"min": [-12, 0, -15], "max": [12, 20, 15]}, "tag": {"id": "OFL-WL-0715", "valid": true}},
-        {"path": "/Game/ORVESSA/OfficinaLuce/Nuvola/Meshes/SM_Pendant", "bounds": {"min": [-30, -30, -120], "max": [30, 30, 0]}, "tag": {"id": "OFL-PL-0730", "valid": true}},
+        {"path": "/Game/ORVESSA/OfficinaLuce/Nuvola/Meshes/SM_Pendant", "bounds": {"min": [-25, -25, -60], "max": [25, 25, 0]}, "tag": {"id": "OFL-PL-0730", "valid": true}},
         {"path": "/Game/ORVESSA/OfficinaLuce/Stelo/Meshes/SM_TableLamp", "bounds": {"min": [-10, -10, 0], "max": [10, 10, 45]}, "tag": {"id": "OFL-TL-0702", "valid": true}},
         {"path": "/Game/ORVESSA/TessileMori/Dune/Meshes/SM_Rug", "bounds": {"min": [-120, -85, 0], "max": [120, 85, 1]}, "tag": {"id": "TSM-RG-0088", "valid": true}},
         {"path": "/Game/ORVESSA/TessileMori/Righe/Meshes/SM_Cushion", "bounds": {"min": [-25, -8, 0], "max": [25, 8, 45]}, "tag": {"id": "TSM-CU-0091", "valid": true}},

@@ -2,9 +2,14 @@
 
 #include "Core/Common/OrvStrings.h"
 
-FOrvMemoryActor* FOrvMemoryActorEditingPort::Find(FOrvActorRef Actor) const
+const FOrvMemoryActor* FOrvMemoryActorEditingPort::Find(FOrvActorRef Actor) const
 {
     return Context.Level.bWorldAvailable ? Context.Level.Find(Actor) : nullptr;
+}
+
+FOrvMemoryActor* FOrvMemoryActorEditingPort::Edit(FOrvActorRef Actor)
+{
+    return Context.Level.bWorldAvailable ? Context.Level.Edit(Actor) : nullptr;
 }
 
 void FOrvMemoryActorEditingPort::Commit(const FOrvMemoryActor& Before, const FOrvMemoryActor& After)
@@ -46,7 +51,7 @@ void FOrvMemoryActorEditingPort::ModifyActor(FOrvActorRef Actor)
 
 void FOrvMemoryActorEditingPort::SetStaticMesh(FOrvActorRef Actor, FOrvMeshRef Mesh)
 {
-    FOrvMemoryActor* Found = Find(Actor);
+    const FOrvMemoryActor* Found = Find(Actor);
     if (!Found || Found->StaticMeshComponents.empty())
     {
         return;
@@ -58,13 +63,14 @@ void FOrvMemoryActorEditingPort::SetStaticMesh(FOrvActorRef Actor, FOrvMeshRef M
         return; // SetStaticMesh refuses an unchanged mesh
     }
     const FOrvMemoryActor Before = *Found;
-    Found->StaticMeshComponents.front() = NewMesh;
-    Commit(Before, *Found);
+    FOrvMemoryActor* Changed = Edit(Actor);
+    Changed->StaticMeshComponents.front() = NewMesh;
+    Commit(Before, *Changed);
 }
 
 void FOrvMemoryActorEditingPort::SetActorLabel(FOrvActorRef Actor, std::string_view Label)
 {
-    FOrvMemoryActor* Found = Find(Actor);
+    const FOrvMemoryActor* Found = Find(Actor);
     if (!Found)
     {
         return;
@@ -77,29 +83,31 @@ void FOrvMemoryActorEditingPort::SetActorLabel(FOrvActorRef Actor, std::string_v
         return;
     }
     const FOrvMemoryActor Before = *Found;
-    Found->Label = NewLabel;
-    Commit(Before, *Found);
+    FOrvMemoryActor* Changed = Edit(Actor);
+    Changed->Label = NewLabel;
+    Commit(Before, *Changed);
 }
 
 void FOrvMemoryActorEditingPort::SetActorTransform(FOrvActorRef Actor,
                                                    const std::optional<FOrvVector>& Location,
                                                    const std::optional<FOrvRotator>& Rotation)
 {
-    FOrvMemoryActor* Found = Find(Actor);
+    const FOrvMemoryActor* Found = Find(Actor);
     if (!Found || !Found->bHasRootComponent || (!Location && !Rotation))
     {
         return;
     }
     const FOrvMemoryActor Before = *Found;
+    FOrvMemoryActor* Changed = Edit(Actor);
     if (Location)
     {
-        Found->Transform.Location = *Location;
+        Changed->Transform.Location = *Location;
     }
     if (Rotation)
     {
-        Found->Transform.Rotation = *Rotation;
+        Changed->Transform.Rotation = *Rotation;
     }
-    Commit(Before, *Found);
+    Commit(Before, *Changed);
 }
 
 std::optional<FOrvTransform> FOrvMemoryActorEditingPort::GetRootComponentTransform(FOrvActorRef Actor) const
@@ -128,8 +136,9 @@ bool FOrvMemoryActorEditingPort::EditorDestroyActor(FOrvActorRef Actor)
 void FOrvMemoryActorEditingPort::SetTemporarilyHidden(FOrvActorRef Actor, bool bHidden)
 {
     // Session-only state: neither transacted nor a change that needs saving.
-    if (FOrvMemoryActor* Found = Find(Actor))
+    const FOrvMemoryActor* Found = Find(Actor);
+    if (Found && Found->bTemporarilyHidden != bHidden)
     {
-        Found->bTemporarilyHidden = bHidden;
+        Edit(Actor)->bTemporarilyHidden = bHidden;
     }
 }

@@ -72,7 +72,8 @@ public:
     void SetTemporarilyHidden(FOrvActorRef Actor, bool bHidden) override;
 
 private:
-    FOrvMemoryActor* Find(FOrvActorRef Actor) const;
+    const FOrvMemoryActor* Find(FOrvActorRef Actor) const;
+    FOrvMemoryActor* Edit(FOrvActorRef Actor);
     void Commit(const FOrvMemoryActor& Before, const FOrvMemoryActor& After);
 
     FOrvMemoryEditorContext& Context;
@@ -131,7 +132,18 @@ public:
     bool ReadPixels(std::vector<FOrvColor>& Out) override;
 
 private:
+    bool IsFrameCurrent(const FOrvRenderCamera& Camera) const;
+    void RenderFrame(const FOrvRenderCamera& Camera);
+
     const FOrvMemoryEditorContext& Context;
     FOrvSoftwareRenderer Renderer;
     std::vector<FOrvRenderBox> Boxes; ///< kept between captures to avoid reallocating
+
+    // The last picture, reused while neither the level nor the camera changed: like the engine's
+    // viewport, ReadPixels copies out the frame it shows rather than drawing a new one.
+    std::vector<FOrvColor> Frame;
+    FOrvRenderCamera FrameCamera;
+    std::uint64_t FrameRevision = 0;
+    bool bFrameWorldAvailable = false;
+    bool bHasFrame = false;
 };

@@ -29,6 +29,7 @@ FOrvActorRef FOrvMemoryLevel::AddActor(FOrvMemoryActor Actor)
     Order.push_back(Actor.Ref);
     const FOrvActorRef Ref = Actor.Ref;
     Records.emplace(Ref.Value, FActorRecord{std::move(Actor), true});
+    ++Revision;
     Broadcast(Ref, true);
     return Ref;
 }
@@ -43,6 +44,7 @@ bool FOrvMemoryLevel::RemoveActor(FOrvActorRef Actor)
     It->second.bInLevel = false;
     Order.erase(std::find(Order.begin(), Order.end(), Actor));
     std::erase(Selection, Actor);
+    ++Revision;
     Broadcast(Actor, false);
     return true;
 }
@@ -56,14 +58,20 @@ bool FOrvMemoryLevel::RestoreActor(FOrvActorRef Actor, std::size_t Index)
     }
     It->second.bInLevel = true;
     Order.insert(Order.begin() + static_cast<std::ptrdiff_t>(std::min(Index, Order.size())), Actor);
+    ++Revision;
     Broadcast(Actor, true);
     return true;
 }
 
-FOrvMemoryActor* FOrvMemoryLevel::Find(FOrvActorRef Actor)
+FOrvMemoryActor* FOrvMemoryLevel::Edit(FOrvActorRef Actor)
 {
     const auto It = Records.find(Actor.Value);
-    return It != Records.end() && It->second.bInLevel ? &It->second.Actor : nullptr;
+    if (It == Records.end() || !It->second.bInLevel)
+    {
+        return nullptr;
+    }
+    ++Revision;
+    return &It->second.Actor;
 }
 
 const FOrvMemoryActor* FOrvMemoryLevel::Find(FOrvActorRef Actor) const
@@ -72,10 +80,15 @@ const FOrvMemoryActor* FOrvMemoryLevel::Find(FOrvActorRef Actor) const
     return It != Records.end() && It->second.bInLevel ? &It->second.Actor : nullptr;
 }
 
-FOrvMemoryActor* FOrvMemoryLevel::FindRecord(FOrvActorRef Actor)
+FOrvMemoryActor* FOrvMemoryLevel::EditRecord(FOrvActorRef Actor)
 {
     const auto It = Records.find(Actor.Value);
-    return It != Records.end() ? &It->second.Actor : nullptr;
+    if (It == Records.end())
+    {
+        return nullptr;
+    }
+    ++Revision;
+    return &It->second.Actor;
 }
 
 const FOrvMemoryActor* FOrvMemoryLevel::FindByName(std::string_view Name) const

@@ -37,11 +37,16 @@ public:
     bool RestoreActor(FOrvActorRef Actor, std::size_t Index);
 
     /** The actor when it is in the level. */
-    FOrvMemoryActor* Find(FOrvActorRef Actor);
     const FOrvMemoryActor* Find(FOrvActorRef Actor) const;
 
+    /** The actor when it is in the level, to change it: counts as a change of the level's content. */
+    FOrvMemoryActor* Edit(FOrvActorRef Actor);
+
     /** The actor's record whether or not it is in the level (undo restores data into removed actors). */
-    FOrvMemoryActor* FindRecord(FOrvActorRef Actor);
+    FOrvMemoryActor* EditRecord(FOrvActorRef Actor);
+
+    /** Goes up with every change of what the level holds or shows, so that a picture of it can be reused. */
+    std::uint64_t GetRevision() const { return Revision; }
 
     /** The actor in the level whose object name is exactly Name. */
     const FOrvMemoryActor* FindByName(std::string_view Name) const;
@@ -87,6 +92,7 @@ private:
     std::vector<FOrvActorRef> Order;
     FOrvNameCounters NameCounters;
     std::uint64_t NextActorRef = 1;
+    std::uint64_t Revision = 0;
 
     std::map<std::uint64_t, FHandlers> Handlers;
     std::uint64_t NextHandle = 1;

@@ -122,7 +122,7 @@ void FOrvMemoryUndoBuffer::Apply(const FChange& Change, bool bForward)
 
 void FOrvMemoryUndoBuffer::ApplyData(FOrvActorRef Actor, const FOrvMemoryActor& Data)
 {
-    FOrvMemoryActor* Record = Level.FindRecord(Actor);
+    FOrvMemoryActor* Record = Level.EditRecord(Actor);
     if (!Record)
     {
         return;

@@ -1,5 +1,10 @@
 #include "Host/Editor/OrvMemoryEditorPorts.h"
 
+namespace
+{
+    const FOrvColor UntaggedTint{214, 222, 228, 255};
+} // namespace
+
 bool FOrvMemoryViewportPort::HasActiveViewport() const
 {
     return Context.Viewport.has_value();
@@ -33,8 +38,33 @@ bool FOrvMemoryViewportPort::ReadPixels(std::vector<FOrvColor>& Out)
         return false;
     }
     const FOrvMemoryViewportDesc& Viewport = *Context.Viewport;
+    FOrvRenderCamera Camera;
+    Camera.bPerspective = Viewport.bPerspective;
+    Camera.View = Viewport.bPerspective ? Viewport.PerspectiveView : Viewport.OrthographicView;
+    Camera.FieldOfView = Viewport.FieldOfView;
+    Camera.OrthoWidth = Viewport.OrthoWidth;
+    Camera.Size = Viewport.Size;
+    if (!IsFrameCurrent(Camera))
+    {
+        RenderFrame(Camera);
+    }
+    Out.assign(Frame.begin(), Frame.end());
+    return true;
+}
 
-    // What the level viewport shows: every visible placed mesh of the editor world.
+bool FOrvMemoryViewportPort::IsFrameCurrent(const FOrvRenderCamera& Camera) const
+{
+    return bHasFrame && FrameRevision == Context.Level.GetRevision() &&
+           bFrameWorldAvailable == Context.Level.bWorldAvailable &&
+           FrameCamera.bPerspective == Camera.bPerspective && FrameCamera.View == Camera.View &&
+           FrameCamera.FieldOfView == Camera.FieldOfView && FrameCamera.OrthoWidth == Camera.OrthoWidth &&
+           FrameCamera.Size.X == Camera.Size.X && FrameCamera.Size.Y == Camera.Size.Y;
+}
+
+void FOrvMemoryViewportPort::RenderFrame(const FOrvRenderCamera& Camera)
+{
+    // What the level viewport shows: every visible placed mesh of the editor world. Catalogue products
+    // are tinted by product id; architecture and other untagged meshes are a neutral plaster colour.
     Boxes.clear();
     if (Context.Level.bWorldAvailable)
     {
@@ -49,20 +79,16 @@ bool FOrvMemoryViewportPort::ReadPixels(std::vector<FOrvColor>& Out)
             {
                 if (const FOrvMemoryMeshDesc* Mesh = Context.Assets.FindMesh(MeshRef))
                 {
-                    const std::string_view TintKey = Mesh->Tag ? Mesh->Tag->ProductID : Mesh->PackageName;
-                    Boxes.push_back(FOrvRenderBox{Mesh->Bounds, Actor->Transform,
-                                                  FOrvSoftwareRenderer::TintFor(TintKey)});
+                    const FOrvColor Tint =
+                        Mesh->Tag ? FOrvSoftwareRenderer::TintFor(Mesh->Tag->ProductID) : UntaggedTint;
+                    Boxes.push_back(FOrvRenderBox{Mesh->Bounds, Actor->Transform, Tint});
                 }
             }
         }
     }
-
-    FOrvRenderCamera Camera;
-    Camera.bPerspective = Viewport.bPerspective;
-    Camera.View = Viewport.bPerspective ? Viewport.PerspectiveView : Viewport.OrthographicView;
-    Camera.FieldOfView = Viewport.FieldOfView;
-    Camera.OrthoWidth = Viewport.OrthoWidth;
-    Camera.Size = Viewport.Size;
-    Renderer.Render(Camera, Boxes, Out);
-    return true;
+    Renderer.Render(Camera, Boxes, Frame);
+    FrameCamera = Camera;
+    FrameRevision = Context.Level.GetRevision();
+    bFrameWorldAvailable = Context.Level.bWorldAvailable;
+    bHasFrame = true;
 }

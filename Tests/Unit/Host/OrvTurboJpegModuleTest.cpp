@@ -1,0 +1,100 @@
+#include "Host/Editor/OrvTurboJpegModule.h"
+
+#include <gtest/gtest.h>
+#include <turbojpeg.h>
+
+#include <cstdint>
+#include <vector>
+
+namespace
+{
+    /** A BGRA test card: gradients plus a little pseudo-random noise, so quality changes the size. */
+    std::vector<std::uint8_t> TestCard(int Width, int Height, std::uint32_t Seed)
+    {
+        std::vector<std::uint8_t> Pixels(static_cast<std::size_t>(Width) * Height * 4);
+        for (std::size_t Index = 0; Index < Pixels.size(); Index += 4)
+        {
+            Seed = Seed * 1664525u + 1013904223u;
+            const std::size_t Pixel = Index / 4;
+            Pixels[Index] = static_cast<std::uint8_t>(Pixel % Width);
+            Pixels[Index + 1] = static_cast<std::uint8_t>(Pixel / Width);
+            Pixels[Index + 2] = static_cast<std::uint8_t>(Seed >> 24);
+            Pixels[Index + 3] = 255;
+        }
+        return Pixels;
+    }
+
+    /** Width and height read back from a JPEG header; {0, 0} when it does not decode. */
+    std::pair<int, int> DecodedSize(std::span<const std::uint8_t> Jpeg)
+    {
+        tjhandle Decoder = tjInitDecompress();
+        int Width = 0, Height = 0, Subsampling = 0, Colorspace = 0;
+        const bool bOk = tjDecompressHeader3(Decoder, Jpeg.data(), static_cast<unsigned long>(Jpeg.size()),
+                                             &Width, &Height, &Subsampling, &Colorspace) == 0;
+        tjDestroy(Decoder);
+        return bOk ? std::pair{Width, Height} : std::pair{0, 0};
+    }
+} // namespace
+
+TEST(FOrvTurboJpegModuleTest, CompressedOutputDecodesToTheRawSize)
+{
+    FOrvTurboJpegModule Module;
+    for (const auto& [Width, Height] : {std::pair{1280, 720}, std::pair{33, 17}})
+    {
+        const std::vector<std::uint8_t> Pixels = TestCard(Width, Height, 7);
+        std::unique_ptr<IOrvImageWrapper> Wrapper = Module.CreateJpegWrapper();
+        ASSERT_TRUE(Wrapper);
+        ASSERT_TRUE(Wrapper->SetRaw(Pixels.data(), static_cast<std::int64_t>(Pixels.size()), Width, Height));
+        const std::span<const std::uint8_t> Jpeg = Wrapper->GetCompressed(80);
+        ASSERT_GE(Jpeg.size(), 2u);
+        EXPECT_EQ(Jpeg[0], 0xFF);
+        EXPECT_EQ(Jpeg[1], 0xD8);
+        EXPECT_EQ(DecodedSize(Jpeg), std::pair(Width, Height));
+    }
+}
+
+TEST(FOrvTurboJpegModuleTest, SetRawRefusesPixelsThatDoNotMatchTheSize)
+{
+    FOrvTurboJpegModule Module;
+    const std::unique_ptr<IOrvImageWrapper> Wrapper = Module.CreateJpegWrapper();
+    const std::vector<std::uint8_t> Pixels = TestCard(8, 8, 1);
+    EXPECT_TRUE(Wrapper->GetCompressed(80).empty()) << "nothing to compress yet";
+    EXPECT_FALSE(Wrapper->SetRaw(Pixels.data(), 8 * 8 * 4 - 1, 8, 8));
+    EXPECT_FALSE(Wrapper->SetRaw(nullptr, 8 * 8 * 4, 8, 8));
+    EXPECT_FALSE(Wrapper->SetRaw(Pixels.data(), 0, 0, 8));
+    EXPECT_TRUE(Wrapper->GetCompressed(80).empty()) << "a refused SetRaw leaves nothing to compress";
+}
+
+TEST(FOrvTurboJpegModuleTest, QualityMapsAsTheEngineWrapperDoesAndLowerQualityIsSmaller)
+{
+    EXPECT_EQ(FOrvTurboJpegModule::MapQuality(0), 85);
+    EXPECT_EQ(FOrvTurboJpegModule::MapQuality(1), 100);
+    EXPECT_EQ(FOrvTurboJpegModule::MapQuality(10), 40);
+    EXPECT_EQ(FOrvTurboJpegModule::MapQuality(80), 80);
+    EXPECT_EQ(FOrvTurboJpegModule::MapQuality(250), 100);
+
+    FOrvTurboJpegModule Module;
+    const std::vector<std::uint8_t> Pixels = TestCard(256, 256, 3);
+    const std::unique_ptr<IOrvImageWrapper> Wrapper = Module.CreateJpegWrapper();
+    ASSERT_TRUE(Wrapper->SetRaw(Pixels.data(), static_cast<std::int64_t>(Pixels.size()), 256, 256));
+    const std::size_t Low = Wrapper->GetCompressed(40).size();
+    const std::size_t High = Wrapper->GetCompressed(95).size();
+    EXPECT_LT(Low, High);
+}
+
+TEST(FOrvTurboJpegModuleTest, AWrapperKeepsItsOutputWhileAnotherOneCompresses)
+{
+    FOrvTurboJpegModule Module;
+    const std::vector<std::uint8_t> Small = TestCard(64, 32, 5);
+    const std::vector<std::uint8_t> Large = TestCard(640, 480, 9);
+
+    const std::unique_ptr<IOrvImageWrapper> First = Module.CreateJpegWrapper();
+    ASSERT_TRUE(First->SetRaw(Small.data(), static_cast<std::int64_t>(Small.size()), 64, 32));
+    const std::span<const std::uint8_t> FirstJpeg = First->GetCompressed(80);
+    const std::vector<std::uint8_t> FirstCopy(FirstJpeg.begin(), FirstJpeg.end());
+
+    const std::unique_ptr<IOrvImageWrapper> Second = Module.CreateJpegWrapper();
+    ASSERT_TRUE(Second->SetRaw(Large.data(), static_cast<std::int64_t>(Large.size()), 640, 480));
+    EXPECT_EQ(DecodedSize(Second->GetCompressed(80)), std::pair(640, 480));
+    EXPECT_EQ(std::vector<std::uint8_t>(FirstJpeg.begin(), FirstJpeg.end()), FirstCopy);
+}
