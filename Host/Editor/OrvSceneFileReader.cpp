@@ -5,17 +5,15 @@
 #include "Host/Editor/OrvObjectNames.h"
 #include "Host/Editor/OrvSceneFile.h"
 #include "Host/Editor/OrvSceneFileSchema.h"
+#include "Host/Editor/OrvSceneJsonReader.h"
 
 #include <rapidjson/document.h>
 
-#include <algorithm>
 #include <cerrno>
-#include <cmath>
 #include <cstring>
 #include <fstream>
 #include <sstream>
 #include <unordered_map>
-#include <unordered_set>
 
 namespace
 {
@@ -27,11 +25,11 @@ namespace
         std::string Place; ///< where the file lists it
     };
 
-    class FOrvSceneReader
+    class FOrvSceneReader : private FOrvSceneJsonReader
     {
     public:
         FOrvSceneReader(const std::string& InSourceName, FOrvMemoryEditor& InEditor)
-            : SourceName(InSourceName), Editor(InEditor)
+            : FOrvSceneJsonReader(InSourceName), SourceName(InSourceName), Editor(InEditor)
         {
         }
 
@@ -44,131 +42,10 @@ namespace
                 return {false, SourceName + ": " + FOrvJson::DescribeParseError(Text, Document)};
             }
             const bool bOk = ReadRoot(Document);
-            return {bOk, bOk ? std::string() : Error};
+            return {bOk, bOk ? std::string() : GetError()};
         }
 
     private:
-        bool Fail(const std::string& Place, const std::string& Problem)
-        {
-            Error = SourceName + ": " + (Place.empty() ? "" : Place + ": ") + Problem;
-            return false;
-        }
-
-        static std::string Quoted(std::string_view Text) { return "\"" + std::string(Text) + "\""; }
-
-        static std::string Join(const std::string& Place, std::string_view Key)
-        {
-            return Place.empty() ? std::string(Key) : Place + "." + std::string(Key);
-        }
-
-        static std::string At(const std::string& Place, std::size_t Index)
-        {
-            return Place + "[" + std::to_string(Index) + "]";
-        }
-
-        /** Objects may hold only the known keys, each once: a typo must not silently drop a value. */
-        bool CheckObject(const rapidjson::Value& Value, const std::string& Place,
-                         std::initializer_list<std::string_view> Allowed)
-        {
-            if (!Value.IsObject())
-            {
-                return Fail(Place, "expected an object");
-            }
-            std::unordered_set<std::string_view> Seen;
-            for (auto It = Value.MemberBegin(); It != Value.MemberEnd(); ++It)
-            {
-                const std::string_view Key = FOrvJson::View(It->name);
-                if (std::find(Allowed.begin(), Allowed.end(), Key) == Allowed.end())
-                {
-                    return Fail(Place, "unknown key " + Quoted(Key));
-                }
-                if (!Seen.insert(Key).second)
-                {
-                    return Fail(Place, "key " + Quoted(Key) + " appears twice");
-                }
-            }
-            return true;
-        }
-
-        bool ReadString(const rapidjson::Value& Object, std::string_view Key, const std::string& Place,
-                        std::string& Out)
-        {
-            const rapidjson::Value* Field = FOrvJson::FindField(Object, Key);
-            if (!Field)
-            {
-                return true;
-            }
-            if (!Field->IsString())
-            {
-                return Fail(Join(Place, Key), "expected a string");
-            }
-            Out.assign(Field->GetString(), Field->GetStringLength());
-            return true;
-        }
-
-        bool ReadBool(const rapidjson::Value& Object, std::string_view Key, const std::string& Place,
-                      bool& bOut)
-        {
-            const rapidjson::Value* Field = FOrvJson::FindField(Object, Key);
-            if (!Field)
-            {
-                return true;
-            }
-            if (!Field->IsBool())
-            {
-                return Fail(Join(Place, Key), "expected true or false");
-            }
-            bOut = Field->GetBool();
-            return true;
-        }
-
-        bool ReadNumber(const rapidjson::Value& Object, std::string_view Key, const std::string& Place,
-                        double& Out)
-        {
-            const rapidjson::Value* Field = FOrvJson::FindField(Object, Key);
-            if (!Field)
-            {
-                return true;
-            }
-            if (!Field->IsNumber())
-            {
-                return Fail(Join(Place, Key), "expected a number");
-            }
-            Out = Field->GetDouble();
-            return true;
-        }
-
-        bool ReadTriple(const rapidjson::Value& Object, std::string_view Key, const std::string& Place,
-                        double& OutA, double& OutB, double& OutC)
-        {
-            const rapidjson::Value* Field = FOrvJson::FindField(Object, Key);
-            if (!Field)
-            {
-                return true;
-            }
-            if (!Field->IsArray() || Field->Size() != 3 || !(*Field)[0].IsNumber() ||
-                !(*Field)[1].IsNumber() || !(*Field)[2].IsNumber())
-            {
-                return Fail(Join(Place, Key), "expected an array of 3 numbers");
-            }
-            OutA = (*Field)[0].GetDouble();
-            OutB = (*Field)[1].GetDouble();
-            OutC = (*Field)[2].GetDouble();
-            return true;
-        }
-
-        bool ReadVector(const rapidjson::Value& Object, std::string_view Key, const std::string& Place,
-                        FOrvVector& Out)
-        {
-            return ReadTriple(Object, Key, Place, Out.X, Out.Y, Out.Z);
-        }
-
-        bool ReadRotator(const rapidjson::Value& Object, std::string_view Key, const std::string& Place,
-                         FOrvRotator& Out)
-        {
-            return ReadTriple(Object, Key, Place, Out.Pitch, Out.Yaw, Out.Roll);
-        }
-
         bool ReadRoot(const rapidjson::Value& Root)
         {
             if (!CheckObject(Root, "", {"version", "map", "editor_world", "assets", "actors", "viewport"}))
@@ -193,7 +70,7 @@ namespace
             }
             Editor.SetMapName(MapName);
             Editor.SetEditorWorldAvailable(bEditorWorld);
-            return ReadAssets(Root) && ReadActors(Root) && ReadViewport(Root);
+            return ReadAssets(Root) && ReadActors(Root) && FOrvSceneViewportReader::Read(*this, Root, Editor);
         }
 
         /** "/Game/A/SM_X" or "/Game/A/SM_X.SM_X" to the package name; empty when malformed. */
@@ -494,100 +371,8 @@ namespace
             return true;
         }
 
-        bool ReadViewport(const rapidjson::Value& Root)
-        {
-            const rapidjson::Value* Field = FOrvJson::FindField(Root, "viewport");
-            if (!Field)
-            {
-                Editor.SetViewport(FOrvMemoryViewportDesc{});
-                return true;
-            }
-            if (Field->IsNull())
-            {
-                Editor.SetViewport(std::nullopt);
-                return true;
-            }
-            const std::string Place = "viewport";
-            if (!CheckObject(*Field, Place, {"projection", "fov", "size", "perspective", "orthographic"}))
-            {
-                return false;
-            }
-            FOrvMemoryViewportDesc Viewport;
-            std::string Projection = "perspective";
-            if (!ReadString(*Field, "projection", Place, Projection) ||
-                !ReadNumber(*Field, "fov", Place, Viewport.FieldOfView) ||
-                !ReadSize(*Field, Place, Viewport.Size) ||
-                !ReadView(*Field, "perspective", Viewport.PerspectiveView, nullptr) ||
-                !ReadView(*Field, "orthographic", Viewport.OrthographicView, &Viewport.OrthoWidth))
-            {
-                return false;
-            }
-            if (Projection != "perspective" && Projection != "orthographic")
-            {
-                return Fail(Join(Place, "projection"), "expected \"perspective\" or \"orthographic\"");
-            }
-            Viewport.bPerspective = Projection == "perspective";
-            if (!(Viewport.FieldOfView > 0.0 && Viewport.FieldOfView < 180.0))
-            {
-                return Fail(Join(Place, "fov"), "expected degrees between 0 and 180 (exclusive)");
-            }
-            Editor.SetViewport(Viewport);
-            return true;
-        }
-
-        bool ReadSize(const rapidjson::Value& Viewport, const std::string& Place, FOrvIntPoint& Out)
-        {
-            const rapidjson::Value* Size = FOrvJson::FindField(Viewport, "size");
-            if (!Size)
-            {
-                return true;
-            }
-            const auto IsPixels = [](const rapidjson::Value& Value) {
-                return Value.IsInt() && Value.GetInt() >= 0 &&
-                       Value.GetInt() <= FOrvSceneFileSchema::MaxViewportSide;
-            };
-            if (!Size->IsArray() || Size->Size() != 2 || !IsPixels((*Size)[0]) || !IsPixels((*Size)[1]))
-            {
-                return Fail(Join(Place, "size"), "expected [width, height] in whole pixels from 0 to " +
-                                                     std::to_string(FOrvSceneFileSchema::MaxViewportSide));
-            }
-            Out = FOrvIntPoint{(*Size)[0].GetInt(), (*Size)[1].GetInt()};
-            return true;
-        }
-
-        bool ReadView(const rapidjson::Value& Viewport, std::string_view Key, FOrvTransform& Out,
-                      double* OutWidth)
-        {
-            const rapidjson::Value* View = FOrvJson::FindField(Viewport, Key);
-            if (!View)
-            {
-                return true;
-            }
-            const std::string Place = Join("viewport", Key);
-            const bool bKnownKeys = OutWidth ? CheckObject(*View, Place, {"location", "rotation", "width"})
-                                             : CheckObject(*View, Place, {"location", "rotation"});
-            if (!bKnownKeys || !ReadVector(*View, "location", Place, Out.Location) ||
-                !ReadRotator(*View, "rotation", Place, Out.Rotation))
-            {
-                return false;
-            }
-            if (OutWidth)
-            {
-                if (!ReadNumber(*View, "width", Place, *OutWidth))
-                {
-                    return false;
-                }
-                if (!(*OutWidth > 0.0))
-                {
-                    return Fail(Join(Place, "width"), "expected a width above 0 (centimetres)");
-                }
-            }
-            return true;
-        }
-
         const std::string& SourceName;
         FOrvMemoryEditor& Editor;
-        std::string Error;
         std::unordered_map<std::string, FOrvSceneAssetEntry> AssetsByPackage; ///< lower-case package name
     };
 } // namespace
