@@ -1,9 +1,9 @@
 #include "Host/OrvHostCommands.h"
 
-#include "Core/Ports/IOrvImageWrapper.h"
 #include "Host/Editor/OrvDemoScene.h"
 #include "Host/Editor/OrvMemoryEditor.h"
 #include "Host/Editor/OrvSceneFile.h"
+#include "Host/Editor/OrvTurboJpegModule.h"
 #include "Host/Runtime/OrvConsoleLog.h"
 #include "Host/Runtime/OrvHostEventLoop.h"
 #include "Host/Runtime/OrvServeSession.h"
@@ -11,15 +11,6 @@
 #include <cstdio>
 #include <string>
 #include <unistd.h>
-
-namespace
-{
-    class FOrvNoJpeg : public IOrvImageWrapperModule
-    {
-    public:
-        std::unique_ptr<IOrvImageWrapper> CreateJpegWrapper() override { return nullptr; }
-    };
-} // namespace
 
 int RunServeCommand(const FOrvServeOptions& Options)
 {
@@ -36,7 +27,7 @@ int RunServeCommand(const FOrvServeOptions& Options)
 
     FOrvConsoleLog Log(Options.bVerbose);
     FOrvHostEventLoop Loop;
-    FOrvNoJpeg Jpeg;
+    FOrvTurboJpegModule Jpeg;
     FOrvServeSession Session(Loop, Editor, Jpeg, Log, Options.SceneFile);
     std::string Error;
     if (!Session.Start(Options.Port, Error))

@@ -82,6 +82,16 @@ TEST_F(FOrvServeToolsEndToEndTest, ReadingToolsDescribeTheDemoRoom)
     EXPECT_EQ(Unknown.Text.rfind("Unknown tool: ue_nope.", 0), 0u) << Unknown.Text;
 }
 
+TEST_F(FOrvServeToolsEndToEndTest, CaptureReturnsAJpegOfTheViewport)
+{
+    const FOrvToolCallReply Capture = Host.CallTool("ue_capture_view", R"({"quality":60})");
+    ASSERT_EQ(Capture.Type, "image") << Capture.Http.Body.substr(0, 400);
+    EXPECT_EQ(Capture.MimeType, "image/jpeg");
+    // Base64 of the JPEG start-of-image marker FF D8 FF.
+    EXPECT_EQ(Capture.Text.rfind("/9j/", 0), 0u);
+    EXPECT_GT(Capture.Text.size(), 1000u);
+}
+
 TEST_F(FOrvServeToolsEndToEndTest, EachChangingToolIsOneStepThatTheConsoleUndoes)
 {
     const std::vector<std::string> Before = SceneIds();
