@@ -72,7 +72,8 @@ struct FOrvMemoryHistoryEntry
  * labels are free text. Actor-spawned and actor-destroyed handlers fire whenever an actor enters or
  * leaves the level: spawn, destroy, AddActor, and undo/redo that brings one back or takes it away.
  * Without an editor world (SetEditorWorldAvailable(false)) the world ports answer empty and refuse
- * changes; the viewport and the asset registry do not depend on the world.
+ * changes; the viewport and the asset registry do not depend on the world. A new editor has an empty
+ * level named "Untitled" and a default perspective viewport (FOrvMemoryViewportDesc{}).
  */
 class FOrvMemoryEditor
 {
