@@ -1,10 +1,63 @@
 #include "Core/Common/OrvBase64.h"
+#include "Host/Editor/OrvTurboJpegModule.h"
+#include "Tests/Support/OrvMcpTestRequests.h"
 #include "Tests/Support/OrvToolTestRig.h"
 
 #include <gtest/gtest.h>
+#include <turbojpeg.h>
 
+#include <cstring>
 #include <functional>
 #include <string>
+
+namespace
+{
+    std::vector<unsigned char> DecodeBase64(std::string_view Text)
+    {
+        static constexpr char Alphabet[] = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+        std::vector<unsigned char> Out;
+        std::uint32_t Bits = 0;
+        int BitCount = 0;
+        for (const char Letter : Text.substr(0, Text.find('=')))
+        {
+            Bits = (Bits << 6) | static_cast<std::uint32_t>(std::strchr(Alphabet, Letter) - Alphabet);
+            BitCount += 6;
+            if (BitCount >= 8)
+            {
+                BitCount -= 8;
+                Out.push_back(static_cast<unsigned char>(Bits >> BitCount));
+            }
+        }
+        return Out;
+    }
+} // namespace
+
+TEST(FOrvCaptureViewTest, TheEditorViewportComesBackAsAJpegOfItsOwnSize)
+{
+    FOrvToolTestRig Rig;
+    FOrvMemoryViewportDesc Viewport;
+    Viewport.Size = {320, 200};
+    Rig.Editor.SetViewport(Viewport);
+    FOrvTurboJpegModule Jpeg;
+    FOrvMcpHandler Handler({Rig.Editor.World(), Rig.Editor.Editing(), Rig.Editor.Transactions(),
+                            Rig.Editor.Assets(), Rig.Editor.Meshes(), Rig.Editor.Viewport(), Jpeg,
+                            Rig.GameThread, Rig.Log});
+    const std::vector<std::string> Responses = OrvSendMcpRequest(
+        Handler, Rig.GameThread, R"({"id":1,"method":"tools/call","params":{"name":"ue_capture_view"}})");
+    ASSERT_EQ(Responses.size(), 1u);
+    const FOrvToolReply Reply = FOrvToolReply::Parse(Responses.front());
+    ASSERT_EQ(Reply.Type, "image");
+
+    const std::vector<unsigned char> Image = DecodeBase64(Reply.Text);
+    int Width = 0, Height = 0, Subsampling = 0, Colourspace = 0;
+    tjhandle Decoder = tjInitDecompress();
+    EXPECT_EQ(
+        tjDecompressHeader3(Decoder, Image.data(), Image.size(), &Width, &Height, &Subsampling, &Colourspace),
+        0);
+    tjDestroy(Decoder);
+    EXPECT_EQ(Width, 320);
+    EXPECT_EQ(Height, 200);
+}
 
 TEST(FOrvCaptureViewTest, EncoderGetsTheWholeFrameOpaqueAndTheClientAnImageBlock)
 {
