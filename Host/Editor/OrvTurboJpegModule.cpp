@@ -111,13 +111,7 @@ std::unique_ptr<IOrvImageWrapper> FOrvTurboJpegModule::CreateJpegWrapper()
 
 int FOrvTurboJpegModule::MapQuality(std::int32_t Requested)
 {
-    if (Requested == 0)
-    {
-        return 85;
-    }
-    if (Requested == 1)
-    {
-        return 100;
-    }
-    return std::clamp<std::int32_t>(Requested, 40, 100);
+    // The asked quality, as it is: 1 is the smallest picture, 100 the finest. (The engine's own JPEG
+    // wrapper remaps 0, 1 and anything below 40; the plugin's adapter deals with that on its side.)
+    return std::clamp<std::int32_t>(Requested, 1, 100);
 }

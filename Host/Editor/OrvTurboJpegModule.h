@@ -24,7 +24,7 @@ public:
 
     std::unique_ptr<IOrvImageWrapper> CreateJpegWrapper() override;
 
-    /** The quality TurboJPEG is given for a requested quality, as the engine's wrapper maps it. */
+    /** The quality TurboJPEG is given for a requested quality: the same, kept within 1..100. */
     static int MapQuality(std::int32_t Requested);
 
     struct FEncoder;
