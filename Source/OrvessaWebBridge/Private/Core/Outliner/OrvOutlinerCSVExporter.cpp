@@ -3,11 +3,12 @@
 #include "Core/Common/OrvConstants.h"
 #include "Core/Common/OrvLogging.h"
 #include "Core/Common/OrvStrings.h"
+#include "Core/Outliner/OrvOutlinerScheduleOrder.h"
 #include "Core/Outliner/OrvOutlinerTreeBuilder.h"
 
-#include <algorithm>
 #include <charconv>
 #include <cstdint>
+#include <cstring>
 #include <optional>
 #include <vector>
 
@@ -21,6 +22,38 @@ namespace
         char Buffer[24];
         const auto Result = std::to_chars(Buffer, Buffer + sizeof(Buffer), Value);
         Out.append(Buffer, Result.ptr);
+    }
+
+    // Whether a field holds , " LF or CR, eight bytes at a time: a schedule is mostly plain text, and
+    // this check runs over every byte of it.
+    bool OrvCsvNeedsQuoting(std::string_view Field)
+    {
+        constexpr std::uint64_t Ones = 0x0101010101010101ull;
+        constexpr std::uint64_t Highs = 0x8080808080808080ull;
+        const auto HasByte = [](std::uint64_t Word, std::uint8_t Byte)
+        {
+            const std::uint64_t Match = Word ^ (Ones * Byte);
+            return ((Match - Ones) & ~Match & Highs) != 0;
+        };
+        std::size_t Index = 0;
+        for (; Index + 8 <= Field.size(); Index += 8)
+        {
+            std::uint64_t Word;
+            std::memcpy(&Word, Field.data() + Index, 8);
+            if (HasByte(Word, ',') || HasByte(Word, '"') || HasByte(Word, '\n') || HasByte(Word, '\r'))
+            {
+                return true;
+            }
+        }
+        for (; Index < Field.size(); ++Index)
+        {
+            const char Character = Field[Index];
+            if (Character == ',' || Character == '"' || Character == '\n' || Character == '\r')
+            {
+                return true;
+            }
+        }
+        return false;
     }
 
     // A header line "Label,value,,,,,,,,,,".
@@ -41,7 +74,7 @@ std::string FOrvOutlinerCSVExporter::EscapeCSVField(std::string_view Field)
 
 void FOrvOutlinerCSVExporter::AppendEscapedField(std::string& Out, std::string_view Field)
 {
-    if (Field.find_first_of(",\"\n\r") == std::string_view::npos)
+    if (!OrvCsvNeedsQuoting(Field))
     {
         Out.append(Field);
         return;
@@ -63,28 +96,50 @@ std::string FOrvOutlinerCSVExporter::GenerateCSV(const FOrvSceneProductMap& Prod
                                                  const IOrvEditorWorld& World,
                                                  const IOrvEnvironment& Environment)
 {
-    std::vector<const FOrvSceneProduct*> Sorted;
-    Sorted.reserve(Products.Num());
+    // The rows are written in map order, the order in which products and their texts were made, so
+    // that reading them walks memory forwards; then they are copied out in schedule order.
+    std::vector<const FOrvSceneProduct*> InMapOrder;
+    InMapOrder.reserve(Products.Num());
     std::size_t FieldBytes = 0;
     for (const FOrvSceneProductPtr& Product : Products)
     {
-        Sorted.push_back(Product.get());
+        InMapOrder.push_back(Product.get());
         FieldBytes += Product->Brand.size() + Product->Name.size() + Product->Collection.size() +
                       Product->Designer.size() + Product->Category.size() + Product->Dimensions.size() +
                       Product->Weight.size() + Product->Website.size() + Product->Description.size();
     }
-    std::stable_sort(Sorted.begin(), Sorted.end(),
-                     [](const FOrvSceneProduct* A, const FOrvSceneProduct* B)
-                     {
-                         const int ByBrand = FOrvStrings::CompareIgnoreCase(A->Brand, B->Brand);
-                         return ByBrand != 0 ? ByBrand < 0 : FOrvStrings::LessIgnoreCase(A->Name, B->Name);
-                     });
+    // Separators, quantity and line end of each row, and a little quoting.
+    const std::size_t RowBytes = FieldBytes + FieldBytes / 16 + InMapOrder.size() * 24;
+
+    std::string Rows;
+    Rows.reserve(RowBytes);
+    std::vector<std::size_t> RowStart;
+    RowStart.reserve(InMapOrder.size() + 1);
+    std::int64_t TotalItems = 0;
+    for (const FOrvSceneProduct* Product : InMapOrder)
+    {
+        RowStart.push_back(Rows.size());
+        const std::int32_t Quantity = FOrvOutlinerTreeBuilder::CountLiveActors(*Product, World);
+        TotalItems += Quantity;
+        OrvCsvAppendInteger(Rows, Quantity);
+        Rows.push_back(',');
+        for (const std::string* Field :
+             {&Product->Brand, &Product->Name, &Product->Collection, &Product->Designer, &Product->Category,
+              &Product->Dimensions, &Product->Weight})
+        {
+            AppendEscapedField(Rows, *Field);
+            Rows.push_back(',');
+        }
+        Rows.push_back(','); // Notes, left for the user
+        AppendEscapedField(Rows, Product->Website);
+        Rows.push_back(',');
+        AppendEscapedField(Rows, Product->Description);
+        Rows.push_back('\n');
+    }
+    RowStart.push_back(Rows.size());
 
     std::string Out;
-    // Room for the fixed lines, each row's separators and quantity, and a little quoting.
-    Out.reserve(512 + ProjectName.size() + Revision.size() + FieldBytes + FieldBytes / 16 +
-                Sorted.size() * 24);
-
+    Out.reserve(512 + ProjectName.size() + Revision.size() + Rows.size());
     Out.append("ORVESSA - Product Schedule,,,,,,,,,,\n");
     Out.append(OrvCsvSeparatorLine);
     OrvCsvAppendHeaderValue(Out, "Project:,", EscapeCSVField(ProjectName));
@@ -99,28 +154,10 @@ std::string FOrvOutlinerCSVExporter::GenerateCSV(const FOrvSceneProductMap& Prod
     Out.append("FURNITURE SCHEDULE,,,,,,,,,,\n");
     Out.append(
         "Qty,Brand,Product,Collection,Designer,Category,Dimensions,Weight,Notes,Product URL,Description\n");
-
-    std::int64_t TotalItems = 0;
-    for (const FOrvSceneProduct* Product : Sorted)
+    for (const std::size_t Index : OrvOutlinerScheduleOrder(InMapOrder))
     {
-        const std::int32_t Quantity = FOrvOutlinerTreeBuilder::CountLiveActors(*Product, World);
-        TotalItems += Quantity;
-        OrvCsvAppendInteger(Out, Quantity);
-        Out.push_back(',');
-        for (const std::string* Field :
-             {&Product->Brand, &Product->Name, &Product->Collection, &Product->Designer, &Product->Category,
-              &Product->Dimensions, &Product->Weight})
-        {
-            AppendEscapedField(Out, *Field);
-            Out.push_back(',');
-        }
-        Out.push_back(','); // Notes, left for the user
-        AppendEscapedField(Out, Product->Website);
-        Out.push_back(',');
-        AppendEscapedField(Out, Product->Description);
-        Out.push_back('\n');
+        Out.append(Rows, RowStart[Index], RowStart[Index + 1] - RowStart[Index]);
     }
-
     Out.append(OrvCsvSeparatorLine);
     OrvCsvAppendInteger(Out, TotalItems);
     Out.append(",TOTAL ITEMS,,,,,,,,,,\n");

@@ -4,9 +4,8 @@
 #include "Core/Json/OrvJsonWriter.h"
 #include "Core/Outliner/OrvOutlinerBatchAnswer.h"
 #include "Core/Outliner/OrvOutlinerTreeBuilder.h"
+#include "Core/Outliner/OrvOutlinerWorldWalk.h"
 
-#include <optional>
-#include <unordered_map>
 #include <utility>
 
 FOrvOutlinerScanner::FOrvOutlinerScanner(const FOrvOutlinerScannerPorts& InPorts)
@@ -48,19 +47,21 @@ void FOrvOutlinerScanner::ScanScene(FOrvOutlinerScanComplete OnComplete)
 
     if (IdsToFetch.empty())
     {
-        FinishScan(Serial);
+        // Built in the same call as the walk: every actor just listed still exists.
+        FinishScan(Serial, EOrvActorCounting::AllListedActorsExist);
         return;
     }
-    FetchProductInfoFromAPI(IdsToFetch, [this, Serial](bool) { FinishScan(Serial); });
+    FetchProductInfoFromAPI(IdsToFetch,
+                            [this, Serial](bool) { FinishScan(Serial, EOrvActorCounting::CountLiveActors); });
 }
 
-void FOrvOutlinerScanner::FinishScan(std::uint64_t Serial)
+void FOrvOutlinerScanner::FinishScan(std::uint64_t Serial, EOrvActorCounting Counting)
 {
     if (!bIsScanning || Serial != ScanSerial)
     {
         return;
     }
-    const FOrvOutlinerTreeItems RootItems = BuildTreeItems(SceneProducts);
+    const FOrvOutlinerTreeItems RootItems = BuildTreeItems(SceneProducts, Counting);
     bIsScanning = false;
     // Taken out first: the delegate may start the next scan, which sets a new one.
     FOrvOutlinerScanComplete OnComplete = std::move(PendingOnComplete);
@@ -93,51 +94,9 @@ FOrvSceneProductMap FOrvOutlinerScanner::ScanWorldForOrvProducts()
         return Products;
     }
 
-    // Many actors share few meshes: ask each mesh for its tag once per scan.
-    std::unordered_map<std::uint64_t, std::optional<std::string>> ProductIdByMesh;
-    const auto FindProductId = [&](FOrvMeshRef Mesh) -> const std::optional<std::string>&
-    {
-        const auto [Found, bInserted] = ProductIdByMesh.try_emplace(Mesh.Value);
-        if (bInserted)
-        {
-            std::optional<FOrvProductTag> Tag = Ports.Meshes.GetProductTag(Mesh);
-            if (Tag && Tag->bIsValid)
-            {
-                Found->second = std::move(Tag->ProductID);
-            }
-        }
-        return Found->second;
-    };
-
-    for (const FOrvActorRef Actor : Ports.World.GetActors())
-    {
-        for (const FOrvMeshRef Mesh : Ports.World.GetStaticMeshComponents(Actor))
-        {
-            if (!Mesh)
-            {
-                continue;
-            }
-            const std::optional<std::string>& ProductId = FindProductId(Mesh);
-            if (!ProductId)
-            {
-                continue;
-            }
-            if (FOrvSceneProductPtr Existing = Products.Find(*ProductId))
-            {
-                Existing->Actors.push_back(Actor);
-            }
-            else
-            {
-                auto Product = std::make_shared<FOrvSceneProduct>();
-                Product->ProductID = *ProductId;
-                Product->Mesh = Mesh;
-                Product->Actors.push_back(Actor);
-                Products.Add(std::move(Product));
-            }
-            ++TotalActorCount;
-            break;
-        }
-    }
+    FOrvOutlinerWorldWalk Walk = FOrvOutlinerWorldWalk::Run(Ports.World, Ports.Meshes);
+    TotalActorCount = Walk.TotalActorCount;
+    Products = std::move(Walk.Products);
 
     OrvLogf(Ports.Log, EOrvLogCategory::LogTemp, EOrvLogVerbosity::Log,
             "OrvOutlinerScanner: Found %d unique products, %d total actors", static_cast<int>(Products.Num()),
@@ -230,7 +189,8 @@ void FOrvOutlinerScanner::StoreInfo(const FOrvProductInfo& Info)
     }
 }
 
-FOrvOutlinerTreeItems FOrvOutlinerScanner::BuildTreeItems(const FOrvSceneProductMap& Products) const
+FOrvOutlinerTreeItems FOrvOutlinerScanner::BuildTreeItems(const FOrvSceneProductMap& Products,
+                                                          EOrvActorCounting Counting) const
 {
-    return FOrvOutlinerTreeBuilder::Build(Products, Ports.World);
+    return FOrvOutlinerTreeBuilder::Build(Products, Ports.World, Counting);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Core/Outliner/OrvOutlinerNameKey.h"
+#include "Core/Outliner/OrvOutlinerTreeBuilder.h"
 #include "Core/Outliner/OrvOutlinerTreeItems.h"
 #include "Core/Outliner/OrvSceneProduct.h"
 #include "Core/Ports/IOrvAssetRegistry.h"
@@ -64,8 +65,9 @@ private:
     void ApplyBatchAnswer(const std::vector<std::string>& ProductIds, bool bSuccess,
                           const rapidjson::Value* Answer, const std::function<void(bool)>& OnComplete);
     void StoreInfo(const FOrvProductInfo& Info);
-    FOrvOutlinerTreeItems BuildTreeItems(const FOrvSceneProductMap& Products) const;
-    void FinishScan(std::uint64_t Serial);
+    FOrvOutlinerTreeItems BuildTreeItems(const FOrvSceneProductMap& Products,
+                                         EOrvActorCounting Counting) const;
+    void FinishScan(std::uint64_t Serial, EOrvActorCounting Counting);
 
     FOrvOutlinerScannerPorts Ports;
     TOrvOutlinerNameMap<FOrvProductInfo> InfoCache;

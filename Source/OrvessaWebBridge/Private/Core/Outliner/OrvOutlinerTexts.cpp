@@ -2,27 +2,26 @@
 
 std::string FOrvOutlinerPanelTexts::FormatNumber(std::int64_t Value)
 {
-    const bool bNegative = Value < 0;
-    std::string Digits = std::to_string(Value);
-    if (bNegative)
+    // Digits from the lowest, a comma before every third, then reversed.
+    std::uint64_t Magnitude =
+        Value < 0 ? 0 - static_cast<std::uint64_t>(Value) : static_cast<std::uint64_t>(Value);
+    std::string Reversed;
+    int Digits = 0;
+    do
     {
-        Digits.erase(0, 1);
-    }
-    std::string Grouped;
-    Grouped.reserve(Digits.size() + Digits.size() / 3 + 1);
-    if (bNegative)
-    {
-        Grouped.push_back('-');
-    }
-    for (std::size_t Index = 0; Index < Digits.size(); ++Index)
-    {
-        if (Index > 0 && (Digits.size() - Index) % 3 == 0)
+        if (Digits > 0 && Digits % 3 == 0)
         {
-            Grouped.push_back(',');
+            Reversed.push_back(',');
         }
-        Grouped.push_back(Digits[Index]);
+        Reversed.push_back(static_cast<char>('0' + Magnitude % 10));
+        Magnitude /= 10;
+        ++Digits;
+    } while (Magnitude > 0);
+    if (Value < 0)
+    {
+        Reversed.push_back('-');
     }
-    return Grouped;
+    return std::string(Reversed.rbegin(), Reversed.rend());
 }
 
 std::string FOrvOutlinerPanelTexts::FormatStatus(std::int32_t Count)
@@ -36,5 +35,7 @@ std::string FOrvOutlinerPanelTexts::FormatStatus(std::int32_t Count)
 
 std::string FOrvOutlinerPanelTexts::FormatRowCount(std::int32_t Count)
 {
-    return "x" + FormatNumber(Count);
+    std::string Text = "x";
+    Text += FormatNumber(Count);
+    return Text;
 }

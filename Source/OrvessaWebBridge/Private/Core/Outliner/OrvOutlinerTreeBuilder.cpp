@@ -1,7 +1,5 @@
 #include "Core/Outliner/OrvOutlinerTreeBuilder.h"
 
-#include "Core/Common/OrvStrings.h"
-
 #include <algorithm>
 #include <string>
 #include <utility>
@@ -9,10 +7,32 @@
 
 namespace
 {
+    // Sort keys folded to lower case once, so that sorting compares plain bytes: the same order as
+    // FOrvStrings::CompareIgnoreCase at a fraction of its cost.
+    std::string OrvTreeBuilderFoldedKey(std::string_view Text)
+    {
+        std::string Key(Text);
+        for (char& Character : Key)
+        {
+            if (Character >= 'A' && Character <= 'Z')
+            {
+                Character = static_cast<char>(Character - 'A' + 'a');
+            }
+        }
+        return Key;
+    }
+
+    struct FOrvTreeBuilderProduct
+    {
+        std::string SortKey; ///< "brand name", folded
+        FOrvSceneProductPtr Product;
+    };
+
     struct FOrvTreeBuilderCategoryGroup
     {
+        std::string SortKey;
         std::string Name;
-        std::vector<std::pair<std::string, FOrvSceneProductPtr>> Products; ///< sort key "Brand Name", product
+        std::vector<FOrvTreeBuilderProduct> Products;
     };
 
     // Groups in first-met order with a name index, so that grouping stays linear.
@@ -26,7 +46,7 @@ namespace
             const auto [Found, bInserted] = IndexByName.try_emplace(Name, Groups.size());
             if (bInserted)
             {
-                Groups.push_back({Name, {}});
+                Groups.push_back({OrvTreeBuilderFoldedKey(Name), Name, {}});
             }
             return Groups[Found->second];
         }
@@ -34,35 +54,42 @@ namespace
 
     struct FOrvTreeBuilderMacroGroup
     {
+        std::string SortKey;
         std::string Name;
         FOrvTreeBuilderCategoryGroups Categories;
     };
 
-    template <typename TGroup> void OrvTreeBuilderSortByName(std::vector<TGroup>& Groups)
+    template <typename TItem> void OrvTreeBuilderSortByKey(std::vector<TItem>& Items)
     {
-        std::stable_sort(Groups.begin(), Groups.end(),
-                         [](const TGroup& A, const TGroup& B)
-                         { return FOrvStrings::LessIgnoreCase(A.Name, B.Name); });
+        std::stable_sort(Items.begin(), Items.end(),
+                         [](const TItem& A, const TItem& B) { return A.SortKey < B.SortKey; });
+    }
+
+    std::int32_t OrvTreeBuilderCount(const FOrvSceneProduct& Product, const IOrvEditorWorld& World,
+                                     EOrvActorCounting Counting)
+    {
+        return Counting == EOrvActorCounting::AllListedActorsExist
+                   ? static_cast<std::int32_t>(Product.Actors.size())
+                   : FOrvOutlinerTreeBuilder::CountLiveActors(Product, World);
     }
 
     std::vector<std::shared_ptr<FOrvOutlinerCategoryItem>>
-    OrvTreeBuilderMakeCategories(FOrvTreeBuilderCategoryGroups& Categories, const IOrvEditorWorld& World)
+    OrvTreeBuilderMakeCategories(FOrvTreeBuilderCategoryGroups& Categories, const IOrvEditorWorld& World,
+                                 EOrvActorCounting Counting)
     {
-        OrvTreeBuilderSortByName(Categories.Groups);
+        OrvTreeBuilderSortByKey(Categories.Groups);
         std::vector<std::shared_ptr<FOrvOutlinerCategoryItem>> Items;
         Items.reserve(Categories.Groups.size());
         for (FOrvTreeBuilderCategoryGroup& Group : Categories.Groups)
         {
-            std::stable_sort(Group.Products.begin(), Group.Products.end(),
-                             [](const auto& A, const auto& B)
-                             { return FOrvStrings::LessIgnoreCase(A.first, B.first); });
+            OrvTreeBuilderSortByKey(Group.Products);
             auto Item = std::make_shared<FOrvOutlinerCategoryItem>();
             Item->CategoryName = std::move(Group.Name);
             Item->Products.reserve(Group.Products.size());
-            for (auto& [SortKey, Product] : Group.Products)
+            for (FOrvTreeBuilderProduct& Entry : Group.Products)
             {
-                Item->ActorCount += FOrvOutlinerTreeBuilder::CountLiveActors(*Product, World);
-                Item->Products.push_back(std::make_shared<FOrvOutlinerProductItem>(std::move(Product)));
+                Item->ActorCount += OrvTreeBuilderCount(*Entry.Product, World, Counting);
+                Item->Products.push_back(std::make_shared<FOrvOutlinerProductItem>(std::move(Entry.Product)));
             }
             Items.push_back(std::move(Item));
         }
@@ -82,7 +109,7 @@ std::int32_t FOrvOutlinerTreeBuilder::CountLiveActors(const FOrvSceneProduct& Pr
 }
 
 FOrvOutlinerTreeItems FOrvOutlinerTreeBuilder::Build(const FOrvSceneProductMap& Products,
-                                                     const IOrvEditorWorld& World)
+                                                     const IOrvEditorWorld& World, EOrvActorCounting Counting)
 {
     std::vector<FOrvTreeBuilderMacroGroup> MacroGroups;
     TOrvOutlinerNameMap<std::size_t> MacroIndexByName;
@@ -97,29 +124,32 @@ FOrvOutlinerTreeItems FOrvOutlinerTreeBuilder::Build(const FOrvSceneProductMap& 
                 MacroIndexByName.try_emplace(Product->CategoryT2, MacroGroups.size());
             if (bInserted)
             {
-                MacroGroups.push_back({Product->CategoryT2, {}});
+                MacroGroups.push_back(
+                    {OrvTreeBuilderFoldedKey(Product->CategoryT2), Product->CategoryT2, {}});
             }
             Categories = &MacroGroups[Found->second].Categories;
         }
-        Categories->FindOrAdd(Product->Category)
-            .Products.emplace_back(Product->Brand + " " + Product->Name, Product);
+        std::string SortKey = OrvTreeBuilderFoldedKey(Product->Brand);
+        SortKey += ' ';
+        SortKey += OrvTreeBuilderFoldedKey(Product->Name);
+        Categories->FindOrAdd(Product->Category).Products.push_back({std::move(SortKey), Product});
     }
 
-    OrvTreeBuilderSortByName(MacroGroups);
+    OrvTreeBuilderSortByKey(MacroGroups);
     FOrvOutlinerTreeItems RootItems;
     RootItems.reserve(MacroGroups.size() + RootCategories.Groups.size());
     for (FOrvTreeBuilderMacroGroup& Group : MacroGroups)
     {
         auto Item = std::make_shared<FOrvOutlinerMacroCategoryItem>();
         Item->MacroCategoryName = std::move(Group.Name);
-        Item->Categories = OrvTreeBuilderMakeCategories(Group.Categories, World);
+        Item->Categories = OrvTreeBuilderMakeCategories(Group.Categories, World, Counting);
         for (const auto& Category : Item->Categories)
         {
             Item->ActorCount += Category->ActorCount;
         }
         RootItems.push_back(std::move(Item));
     }
-    for (auto& Category : OrvTreeBuilderMakeCategories(RootCategories, World))
+    for (auto& Category : OrvTreeBuilderMakeCategories(RootCategories, World, Counting))
     {
         RootItems.push_back(std::move(Category));
     }

@@ -5,6 +5,13 @@
 
 #include <cstdint>
 
+/** @brief How a tree build learns which actors still exist. */
+enum class EOrvActorCounting : std::uint8_t
+{
+    CountLiveActors,      ///< ask the world for each actor
+    AllListedActorsExist, ///< the products were filled from the world in this same call
+};
+
 /** @brief Turns a product map into the outliner's sorted tree of macro categories, categories and products.
  */
 struct FOrvOutlinerTreeBuilder
@@ -14,7 +21,8 @@ struct FOrvOutlinerTreeBuilder
      * of products without a macro category at the root. Products sort by "Brand Name"; all without case.
      * Counts are of the actors that still exist now. Linear in actors, n log n in products.
      */
-    static FOrvOutlinerTreeItems Build(const FOrvSceneProductMap& Products, const IOrvEditorWorld& World);
+    static FOrvOutlinerTreeItems Build(const FOrvSceneProductMap& Products, const IOrvEditorWorld& World,
+                                       EOrvActorCounting Counting = EOrvActorCounting::CountLiveActors);
 
     /** How many of the product's actors still exist. */
     static std::int32_t CountLiveActors(const FOrvSceneProduct& Product, const IOrvEditorWorld& World);

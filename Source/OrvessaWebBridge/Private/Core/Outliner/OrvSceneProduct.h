@@ -66,6 +66,16 @@ public:
         return Found == IndexById.end() ? nullptr : Products[Found->second];
     }
 
+    /** Where the product under Id stands in the order; Num() when there is none. */
+    std::size_t FindIndex(std::string_view Id) const
+    {
+        const auto Found = IndexById.find(Id);
+        return Found == IndexById.end() ? Products.size() : Found->second;
+    }
+
+    /** The product at a place of the order (below Num()). */
+    const FOrvSceneProductPtr& operator[](std::size_t Index) const { return Products[Index]; }
+
     /** Adds Product under its ProductID; replaces a product already held under that id. */
     void Add(FOrvSceneProductPtr Product)
     {
