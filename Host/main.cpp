@@ -57,11 +57,15 @@ int main(int Argc, char** Argv)
     AddSceneOption(*ScheduleCommand, Schedule.SceneFile);
     AddCatalogOptions(*ScheduleCommand, Schedule.Catalog);
     ScheduleCommand->add_option("--project", Schedule.ProjectName,
-                                "Project name in the header (default: the level's map name)");
+                                "Project name in the header (default: the level's map name; empty: "
+                                "\"Untitled Project\")");
     ScheduleCommand->add_option("--revision", Schedule.Revision, "Revision in the header (default: 01)");
     ScheduleCommand->add_option("-o,--output", Schedule.OutputFile,
-                                "File to write (default: <Project>_ProductSchedule_R<Revision>.csv)");
-    ScheduleCommand->add_flag("--force", Schedule.bForce, "Overwrite the output file if it exists");
+                                "File to write, \".csv\" added when missing (default: "
+                                "<Project>_ProductSchedule_R<Revision>.csv in the current directory)");
+    ScheduleCommand->add_flag("--force", Schedule.bForce,
+                              "Replace the output file if it exists (without it, an existing file is kept and "
+                              "the command fails)");
     ScheduleCommand->add_flag("--verbose,-v", Schedule.bVerbose, "Also print Verbose log lines");
 
     FOrvCardsOptions Cards;

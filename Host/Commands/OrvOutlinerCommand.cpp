@@ -1,9 +1,20 @@
 #include "Host/OrvHostCommands.h"
 
+#include "Host/Outliner/OrvOutlinerSession.h"
+#include "Host/Outliner/OrvOutlinerTextView.h"
+
 #include <cstdio>
 
-int RunOutlinerCommand(const FOrvOutlinerOptions&)
+int RunOutlinerCommand(const FOrvOutlinerOptions& Options)
 {
-    std::fprintf(stderr, "orv-host outliner: not available in this build yet\n");
-    return 2;
+    FOrvOutlinerSession Session(Options.bVerbose);
+    std::string Error;
+    if (!Session.Open(Options.SceneFile, Options.Catalog, Error) || !Session.ScanToCompletion(Error))
+    {
+        std::fprintf(stderr, "orv-host outliner: %s\n", Error.c_str());
+        return 1;
+    }
+    const std::string Text = FOrvOutlinerTextView::Render(Session.Panel());
+    std::fwrite(Text.data(), 1, Text.size(), stdout);
+    return 0;
 }

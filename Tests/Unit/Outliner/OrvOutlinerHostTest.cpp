@@ -1,0 +1,113 @@
+#include "Host/OrvHostCommands.h"
+#include "Host/Outliner/OrvHostFiles.h"
+#include "Host/Outliner/OrvOutlinerTextView.h"
+#include "Tests/Unit/Outliner/OrvOutlinerTestRig.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+namespace
+{
+    /** A fresh directory under the system's temporary one, removed afterwards. */
+    struct FTempDirectory
+    {
+        FTempDirectory()
+        {
+            std::string Pattern = (std::filesystem::temp_directory_path() / "orv-outliner-XXXXXX").string();
+            Path = mkdtemp(Pattern.data());
+        }
+        ~FTempDirectory() { std::filesystem::remove_all(Path); }
+
+        std::filesystem::path Path;
+    };
+
+    std::string ReadFile(const std::filesystem::path& Path)
+    {
+        std::ifstream Stream(Path, std::ios::binary);
+        std::ostringstream Text;
+        Text << Stream.rdbuf();
+        return Text.str();
+    }
+} // namespace
+
+TEST(FOrvOutlinerHostTest, TextViewDrawsStatusTreeCountsAndHiddenCategories)
+{
+    FOrvOutlinerRig Rig;
+    Rig.AddActors(Rig.AddProductMesh("SM_Chair", "P-CHAIR"), 3);
+    Rig.AddActors(Rig.AddProductMesh("SM_Rug", "P-RUG"), 1);
+    FOrvOutlinerPanelModel Panel(Rig.PanelPorts());
+    Panel.Construct();
+    Rig.Api.Answer(OrvTestAnswer({{"P-CHAIR", OrvTestRecord("P-CHAIR", "Hay", "About", "Chairs", "Seating")},
+                                  {"P-RUG", OrvTestRecord("P-RUG", "Vitra", "Rug", "Rugs")}}));
+    Panel.OnToggleCategoryVisibility(*Panel.GetRootItems()[0]->AsMacroCategory()->Categories[0]);
+
+    EXPECT_EQ(FOrvOutlinerTextView::Render(Panel), "4 products in scene\n"
+                                                   "Seating x3\n"
+                                                   "  Chairs x3 (hidden)\n"
+                                                   "    Hay - About x3\n"
+                                                   "Rugs x1\n"
+                                                   "  Vitra - Rug x1\n");
+
+    Rig.Ui.bLoggedIn = false;
+    EXPECT_EQ(FOrvOutlinerTextView::Render(Panel),
+              "4 products in scene\nLogin Required\n"
+              "Please log in via the Orv Catalog panel\nto view scene products.\n");
+}
+
+TEST(FOrvOutlinerHostTest, HostFilesNeverReplaceAFileUnlessAllowedAndLeaveNoTemporaryFiles)
+{
+    FTempDirectory Directory;
+    const std::string Target = (Directory.Path / "Schedule.csv").string();
+    FOrvHostFiles Files;
+
+    ASSERT_TRUE(Files.SaveStringToFile("first", Target));
+    EXPECT_FALSE(Files.SaveStringToFile("second", Target));
+    EXPECT_TRUE(Files.bLastFailureWasExistingFile);
+    EXPECT_EQ(ReadFile(Target), "first");
+
+    Files.bAllowOverwrite = true;
+    ASSERT_TRUE(Files.SaveStringToFile("third", Target));
+    EXPECT_EQ(ReadFile(Target), "third");
+    EXPECT_EQ(Files.LastSavedPath, Target);
+
+    EXPECT_FALSE(Files.SaveStringToFile("x", (Directory.Path / "missing" / "S.csv").string()));
+    EXPECT_FALSE(Files.LastError.empty());
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(Directory.Path), {}), 1);
+}
+
+TEST(FOrvOutlinerHostTest, ScheduleCommandWritesOnceAndOverwritesOnlyWhenForced)
+{
+    FTempDirectory Directory;
+    FOrvScheduleOptions Options;
+    Options.OutputFile = (Directory.Path / "Villa").string();
+    Options.ProjectName = "Villa, Rosa";
+
+    ASSERT_EQ(RunScheduleCommand(Options), 0);
+    const std::filesystem::path Written = Directory.Path / "Villa.csv";
+    const std::string First = ReadFile(Written);
+    EXPECT_NE(First.find("Project:,\"Villa, Rosa\",,,,,,,,,,\nDate:,"), std::string::npos);
+    EXPECT_NE(First.find("Revision:,01,"), std::string::npos);
+
+    Options.Revision = "02";
+    EXPECT_EQ(RunScheduleCommand(Options), 1);
+    EXPECT_EQ(ReadFile(Written), First);
+
+    Options.bForce = true;
+    EXPECT_EQ(RunScheduleCommand(Options), 0);
+    EXPECT_NE(ReadFile(Written).find("Revision:,02,"), std::string::npos);
+}
+
+TEST(FOrvOutlinerHostTest, ScheduleCommandWithoutOptionsUsesThePanelsDefaultNameInTheCurrentDirectory)
+{
+    FTempDirectory Directory;
+    const std::filesystem::path Previous = std::filesystem::current_path();
+    std::filesystem::current_path(Directory.Path);
+    const int ExitCode = RunScheduleCommand({});
+    std::filesystem::current_path(Previous);
+
+    EXPECT_EQ(ExitCode, 0);
+    EXPECT_TRUE(std::filesystem::exists(Directory.Path / "DemoRoom_ProductSchedule_R01.csv"));
+}
