@@ -1,6 +1,5 @@
 #include "Host/Catalog/OrvOfflineCatalogApi.h"
 #include "Tests/Support/OrvManualGameThread.h"
-#include "Tests/Unit/Outliner/OrvOutlinerTestRig.h"
 
 #include <gtest/gtest.h>
 
@@ -69,28 +68,6 @@ TEST(FOrvOfflineCatalogApiTest, OtherPathsAndBadBodiesDoNotGiveProducts)
     EXPECT_EQ(Unknown.Document, nullptr);
     ASSERT_TRUE(BadBody.bSuccess && BadBody.Document);
     EXPECT_FALSE((*BadBody.Document)["status"].GetBool());
-}
-
-TEST(FOrvOfflineCatalogApiTest, ScannerCompletesProductsFromTheOfflineFile)
-{
-    FOrvOutlinerRig Rig;
-    Rig.AddActors(Rig.AddProductMesh("SM_LC2", "P-LC2"), 2);
-    Rig.AddActors(Rig.AddProductMesh("SM_Gone", "P-GONE"), 1);
-    FOrvManualGameThread GameThread;
-    FOrvOfflineCatalogApi Api(GameThread);
-    ASSERT_TRUE(Api.LoadText(CatalogText, "catalog.json").bOk);
-    FOrvOutlinerScanner Scanner({Rig.Editor.World(), Rig.Editor.Meshes(), Api, Rig.Log});
-    int Completions = 0;
-
-    Scanner.ScanScene([&](const FOrvOutlinerTreeItems&) { ++Completions; });
-    GameThread.RunPending();
-
-    EXPECT_EQ(Completions, 1);
-    const FOrvSceneProduct& Lc2 = *Scanner.GetSceneProducts().Find("P-LC2");
-    EXPECT_EQ(Lc2.CategoryT2, "Seating");
-    EXPECT_EQ(Lc2.Weight, "32");
-    EXPECT_TRUE(
-        Rig.Log.Contains(EOrvLogVerbosity::Warning, "OrvOutlinerScanner: Product not found in API: P-GONE"));
 }
 
 TEST(FOrvOfflineCatalogApiTest, MalformedCataloguesAreRefusedWithWhereAndWhy)

@@ -63,7 +63,7 @@ namespace
     }
 } // namespace
 
-TEST(FOrvOutlinerScannerTest, LevelWithoutCatalogueProductsCompletesAtOnceWithoutAskingTheCatalogue)
+TEST(FOrvOutlinerScannerTest, LevelWithoutProductsOrWithoutWorldCompletesAtOnceWithoutAskingTheCatalogue)
 {
     FOrvOutlinerRig Rig;
     Rig.AddActors(Rig.AddPlainMesh("SM_Wall"), 3);
@@ -359,20 +359,4 @@ TEST(FOrvOutlinerScannerTest, AnswerArrivingAfterTheScannerIsGoneTouchesNothing)
     }
     Rig.Api.Answer(OrvTestAnswer({{"P1", OrvTestRecord("P1", "Hay", "About", "Chairs")}}));
     EXPECT_EQ(Run.Completions, 0);
-}
-
-TEST(FOrvOutlinerScannerTest, NoEditorWorldWarnsAndGivesAnEmptyTree)
-{
-    FOrvOutlinerRig Rig;
-    Rig.AddActor({Rig.AddProductMesh("SM_1", "P1")});
-    Rig.Editor.SetEditorWorldAvailable(false);
-    FOrvOutlinerScanner Scanner(Rig.ScannerPorts());
-    FScanRun Run;
-
-    Scanner.ScanScene(Run.Callback());
-
-    EXPECT_TRUE(Rig.Log.Contains(EOrvLogVerbosity::Warning, "OrvOutlinerScanner: No world available"));
-    EXPECT_EQ(Run.Completions, 1);
-    EXPECT_TRUE(Run.RootItems.empty());
-    EXPECT_TRUE(Rig.Api.Requests.empty());
 }

@@ -4,6 +4,7 @@
 #include "Core/Outliner/OrvOutlinerPanelModel.h"
 #include "Core/Outliner/OrvOutlinerScanner.h"
 #include "Host/Editor/OrvMemoryEditor.h"
+#include "Host/Outliner/OrvHostEditorUi.h"
 #include "Tests/Support/OrvRecordingLog.h"
 
 #include <gtest/gtest.h>
@@ -133,18 +134,6 @@ private:
     double Now = 0.0;
 };
 
-class FOrvFakeEditorUi : public IOrvEditorUi
-{
-public:
-    void NavigateWebPanel(std::string_view Url) override { NavigatedUrls.emplace_back(Url); }
-    void SyncContentBrowserToMesh(FOrvMeshRef Mesh) override { SyncedMeshes.push_back(Mesh); }
-    bool IsUserLoggedIn() const override { return bLoggedIn; }
-
-    bool bLoggedIn = true;
-    std::vector<std::string> NavigatedUrls;
-    std::vector<FOrvMeshRef> SyncedMeshes;
-};
-
 /** @brief A save dialog that answers as told, and files kept in memory. */
 class FOrvFakeFiles : public IOrvFiles
 {
@@ -200,7 +189,7 @@ struct FOrvOutlinerRig
     FOrvMemoryEditor Editor;
     FOrvFakeCatalogApi Api;
     FOrvFakeTimers Timers;
-    FOrvFakeEditorUi Ui;
+    FOrvHostEditorUi Ui; ///< records what the panel asked of the editor
     FOrvFakeFiles Files;
     FOrvFakeEnvironment Environment;
     FOrvRecordingLog Log;
