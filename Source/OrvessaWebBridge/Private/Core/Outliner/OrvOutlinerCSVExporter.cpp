@@ -8,7 +8,6 @@
 
 #include <charconv>
 #include <cstdint>
-#include <cstring>
 #include <optional>
 #include <vector>
 
@@ -24,36 +23,17 @@ namespace
         Out.append(Buffer, Result.ptr);
     }
 
-    // Whether a field holds , " LF or CR, eight bytes at a time: a schedule is mostly plain text, and
-    // this check runs over every byte of it.
+    // Whether a field holds , " LF or CR. This runs over every byte of the schedule, which is mostly plain
+    // text, so the loop has no branch per byte.
     bool OrvCsvNeedsQuoting(std::string_view Field)
     {
-        constexpr std::uint64_t Ones = 0x0101010101010101ull;
-        constexpr std::uint64_t Highs = 0x8080808080808080ull;
-        const auto HasByte = [](std::uint64_t Word, std::uint8_t Byte)
+        unsigned char Found = 0;
+        for (const char Character : Field)
         {
-            const std::uint64_t Match = Word ^ (Ones * Byte);
-            return ((Match - Ones) & ~Match & Highs) != 0;
-        };
-        std::size_t Index = 0;
-        for (; Index + 8 <= Field.size(); Index += 8)
-        {
-            std::uint64_t Word;
-            std::memcpy(&Word, Field.data() + Index, 8);
-            if (HasByte(Word, ',') || HasByte(Word, '"') || HasByte(Word, '\n') || HasByte(Word, '\r'))
-            {
-                return true;
-            }
+            Found |= static_cast<unsigned char>((Character == ',') | (Character == '"') |
+                                                (Character == '\n') | (Character == '\r'));
         }
-        for (; Index < Field.size(); ++Index)
-        {
-            const char Character = Field[Index];
-            if (Character == ',' || Character == '"' || Character == '\n' || Character == '\r')
-            {
-                return true;
-            }
-        }
-        return false;
+        return Found != 0;
     }
 
     // A header line "Label,value,,,,,,,,,,".
@@ -96,50 +76,28 @@ std::string FOrvOutlinerCSVExporter::GenerateCSV(const FOrvSceneProductMap& Prod
                                                  const IOrvEditorWorld& World,
                                                  const IOrvEnvironment& Environment)
 {
-    // The rows are written in map order, the order in which products and their texts were made, so
-    // that reading them walks memory forwards; then they are copied out in schedule order.
     std::vector<const FOrvSceneProduct*> InMapOrder;
     InMapOrder.reserve(Products.Num());
+    std::vector<std::int32_t> Quantities;
+    Quantities.reserve(Products.Num());
     std::size_t FieldBytes = 0;
+    std::int64_t TotalItems = 0;
+    // Counted in map order, the order the level's actors were met in, which keeps the world's
+    // look-ups close together.
     for (const FOrvSceneProductPtr& Product : Products)
     {
         InMapOrder.push_back(Product.get());
+        Quantities.push_back(FOrvOutlinerTreeBuilder::CountLiveActors(*Product, World));
+        TotalItems += Quantities.back();
         FieldBytes += Product->Brand.size() + Product->Name.size() + Product->Collection.size() +
                       Product->Designer.size() + Product->Category.size() + Product->Dimensions.size() +
                       Product->Weight.size() + Product->Website.size() + Product->Description.size();
     }
-    // Separators, quantity and line end of each row, and a little quoting.
-    const std::size_t RowBytes = FieldBytes + FieldBytes / 16 + InMapOrder.size() * 24;
-
-    std::string Rows;
-    Rows.reserve(RowBytes);
-    std::vector<std::size_t> RowStart;
-    RowStart.reserve(InMapOrder.size() + 1);
-    std::int64_t TotalItems = 0;
-    for (const FOrvSceneProduct* Product : InMapOrder)
-    {
-        RowStart.push_back(Rows.size());
-        const std::int32_t Quantity = FOrvOutlinerTreeBuilder::CountLiveActors(*Product, World);
-        TotalItems += Quantity;
-        OrvCsvAppendInteger(Rows, Quantity);
-        Rows.push_back(',');
-        for (const std::string* Field :
-             {&Product->Brand, &Product->Name, &Product->Collection, &Product->Designer, &Product->Category,
-              &Product->Dimensions, &Product->Weight})
-        {
-            AppendEscapedField(Rows, *Field);
-            Rows.push_back(',');
-        }
-        Rows.push_back(','); // Notes, left for the user
-        AppendEscapedField(Rows, Product->Website);
-        Rows.push_back(',');
-        AppendEscapedField(Rows, Product->Description);
-        Rows.push_back('\n');
-    }
-    RowStart.push_back(Rows.size());
 
     std::string Out;
-    Out.reserve(512 + ProjectName.size() + Revision.size() + Rows.size());
+    // The fixed lines, each row's separators, quantity and line end, and a little quoting.
+    Out.reserve(512 + ProjectName.size() + Revision.size() + FieldBytes + FieldBytes / 16 +
+                InMapOrder.size() * 24);
     Out.append("ORVESSA - Product Schedule,,,,,,,,,,\n");
     Out.append(OrvCsvSeparatorLine);
     OrvCsvAppendHeaderValue(Out, "Project:,", EscapeCSVField(ProjectName));
@@ -156,7 +114,21 @@ std::string FOrvOutlinerCSVExporter::GenerateCSV(const FOrvSceneProductMap& Prod
         "Qty,Brand,Product,Collection,Designer,Category,Dimensions,Weight,Notes,Product URL,Description\n");
     for (const std::size_t Index : OrvOutlinerScheduleOrder(InMapOrder))
     {
-        Out.append(Rows, RowStart[Index], RowStart[Index + 1] - RowStart[Index]);
+        const FOrvSceneProduct* Product = InMapOrder[Index];
+        OrvCsvAppendInteger(Out, Quantities[Index]);
+        Out.push_back(',');
+        for (const std::string* Field :
+             {&Product->Brand, &Product->Name, &Product->Collection, &Product->Designer, &Product->Category,
+              &Product->Dimensions, &Product->Weight})
+        {
+            AppendEscapedField(Out, *Field);
+            Out.push_back(',');
+        }
+        Out.push_back(','); // Notes, left for the user
+        AppendEscapedField(Out, Product->Website);
+        Out.push_back(',');
+        AppendEscapedField(Out, Product->Description);
+        Out.push_back('\n');
     }
     Out.append(OrvCsvSeparatorLine);
     OrvCsvAppendInteger(Out, TotalItems);
