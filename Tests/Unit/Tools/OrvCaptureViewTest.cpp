@@ -62,9 +62,16 @@ TEST(FOrvCaptureViewTest, TheEditorViewportComesBackAsAJpegOfItsOwnSize)
 TEST(FOrvCaptureViewTest, EncoderGetsTheWholeFrameOpaqueAndTheClientAnImageBlock)
 {
     FOrvToolTestRig Rig(EOrvRigViewport::Fake);
-    Rig.FakeViewport.Size = {3, 2};
-    Rig.FakeViewport.Frame = {{1, 2, 3, 0}, {4, 5, 6, 7},      {8, 9, 10, 128},
-                              {0, 0, 0, 0}, {11, 12, 13, 255}, {9, 9, 9, 1}};
+    // 20 pixels: whole blocks and a remainder both go through the alpha pass.
+    Rig.FakeViewport.Size = {5, 4};
+    Rig.FakeViewport.Frame.clear();
+    std::vector<std::uint8_t> Expected;
+    for (std::uint8_t Index = 0; Index < 20; ++Index)
+    {
+        Rig.FakeViewport.Frame.push_back(
+            {Index, std::uint8_t(Index + 1), std::uint8_t(Index + 2), std::uint8_t(Index * 13)});
+        Expected.insert(Expected.end(), {Index, std::uint8_t(Index + 1), std::uint8_t(Index + 2), 255});
+    }
     const FOrvToolReply Reply = Rig.Call("ue_capture_view");
     EXPECT_FALSE(Reply.bAnsweredBeforePump);
     EXPECT_EQ(Reply.Type, "image");
@@ -73,11 +80,10 @@ TEST(FOrvCaptureViewTest, EncoderGetsTheWholeFrameOpaqueAndTheClientAnImageBlock
     EXPECT_EQ(Reply.Envelope.find("isError"), std::string::npos);
 
     const FOrvFakeJpegRecord& Record = Rig.Images.Record;
-    EXPECT_EQ(Record.Width, 3);
-    EXPECT_EQ(Record.Height, 2);
-    EXPECT_EQ(Record.RawSize, 24);
-    EXPECT_EQ(Record.RawBytes, (std::vector<std::uint8_t>{1, 2, 3, 255, 4,  5,  6,  255, 8, 9, 10, 255,
-                                                          0, 0, 0, 255, 11, 12, 13, 255, 9, 9, 9,  255}));
+    EXPECT_EQ(Record.Width, 5);
+    EXPECT_EQ(Record.Height, 4);
+    EXPECT_EQ(Record.RawSize, 80);
+    EXPECT_EQ(Record.RawBytes, Expected);
 
     // The kept buffer follows a resized viewport.
     Rig.FakeViewport.Size = {1, 2};

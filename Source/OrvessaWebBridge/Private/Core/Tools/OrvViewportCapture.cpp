@@ -5,6 +5,7 @@
 #include "Core/Mcp/OrvMcpHandler.h"
 
 #include <bit>
+#include <cstddef>
 #include <cstring>
 #include <memory>
 #include <span>
@@ -24,21 +25,31 @@ namespace
 
     static_assert(sizeof(FOrvColor) == 4, "pixels are read and encoded as packed 32-bit BGRA words");
 
-    // The alpha byte of every pixel to 255, one 32-bit word at a time. memcpy is how the word is read and
-    // written without breaking aliasing rules; compilers turn it into plain loads and stores and
-    // vectorise the loop.
+    // The alpha byte of every pixel to 255, 32-bit words at a time. memcpy reads and writes the words
+    // without breaking aliasing rules and compiles to plain loads and stores. The fixed-size inner block
+    // is what lets compilers vectorise the loop even at -O2 (whose cost model skips loops of unknown
+    // length): the pass is memory-bound then, a few tenths of a millisecond for a 1080p frame.
     void OrvCaptureMakeOpaque(std::vector<FOrvColor>& Pixels)
     {
         constexpr std::uint32_t AlphaMask =
             std::endian::native == std::endian::little ? 0xFF000000u : 0x000000FFu;
+        constexpr std::size_t BlockWords = 16;
         unsigned char* Bytes = reinterpret_cast<unsigned char*>(Pixels.data());
         const std::size_t Count = Pixels.size();
-        for (std::size_t Index = 0; Index < Count; ++Index)
+        std::size_t Index = 0;
+        for (; Index + BlockWords <= Count; Index += BlockWords)
         {
-            std::uint32_t Word;
-            std::memcpy(&Word, Bytes + Index * 4, 4);
-            Word |= AlphaMask;
-            std::memcpy(Bytes + Index * 4, &Word, 4);
+            std::uint32_t Words[BlockWords];
+            std::memcpy(Words, Bytes + Index * 4, sizeof(Words));
+            for (std::uint32_t& Word : Words)
+            {
+                Word |= AlphaMask;
+            }
+            std::memcpy(Bytes + Index * 4, Words, sizeof(Words));
+        }
+        for (; Index < Count; ++Index)
+        {
+            Bytes[Index * 4 + offsetof(FOrvColor, A)] = 255;
         }
     }
 
