@@ -39,13 +39,14 @@ namespace
         std::size_t Index = 0;
         for (; Index + BlockWords <= Count; Index += BlockWords)
         {
-            std::uint32_t Words[BlockWords];
-            std::memcpy(Words, Bytes + Index * 4, sizeof(Words));
-            for (std::uint32_t& Word : Words)
+            unsigned char* Block = Bytes + Index * 4;
+            for (std::size_t Word = 0; Word < BlockWords; ++Word)
             {
-                Word |= AlphaMask;
+                std::uint32_t Pixel;
+                std::memcpy(&Pixel, Block + Word * 4, 4);
+                Pixel |= AlphaMask;
+                std::memcpy(Block + Word * 4, &Pixel, 4);
             }
-            std::memcpy(Bytes + Index * 4, Words, sizeof(Words));
         }
         for (; Index < Count; ++Index)
         {
