@@ -30,6 +30,11 @@ int RunServeCommand(const FOrvServeOptions& Options)
     FOrvTurboJpegModule Jpeg;
     FOrvServeSession Session(Loop, Editor, Jpeg, Log, Options.SceneFile);
     std::string Error;
+    if (!Session.OpenOutliner(Options.Catalog, Error))
+    {
+        std::fprintf(stderr, "orv-host serve: %s\n", Error.c_str());
+        return 1;
+    }
     if (!Session.Start(Options.Port, Error))
     {
         std::fprintf(stderr, "orv-host serve: %s\n", Error.c_str());

@@ -18,15 +18,31 @@ namespace
 } // namespace
 
 FOrvServeSession::FOrvServeSession(FOrvHostEventLoop& InLoop, FOrvMemoryEditor& InEditor,
-                                   IOrvImageWrapperModule& Images, IOrvLog& Log, std::string SceneFile)
-    : Loop(InLoop), Editor(InEditor), Endpoint(InLoop, MakePorts(InEditor, Images, InLoop, Log), Log),
+                                   IOrvImageWrapperModule& Images, IOrvLog& InLog, std::string SceneFile)
+    : Loop(InLoop), Editor(InEditor), Log(InLog),
+      Endpoint(InLoop, MakePorts(InEditor, Images, InLoop, InLog), InLog),
       Console(InEditor, std::move(SceneFile), [this] { Loop.Stop(); }),
       Input(
           InLoop, [this](const std::string& Line) { OnConsoleLine(Line); }, [] {})
 {
 }
 
-FOrvServeSession::~FOrvServeSession() = default;
+FOrvServeSession::~FOrvServeSession()
+{
+    // The outliner's panel unregisters from the editor and the loop's timers while both still exist.
+    Outliner.reset();
+}
+
+bool FOrvServeSession::OpenOutliner(const FOrvCatalogSourceOptions& Catalog, std::string& Error)
+{
+    auto Opened = std::make_unique<FOrvServeOutliner>(Loop, Editor, Log);
+    if (!Opened->Open(Catalog, Error))
+    {
+        return false;
+    }
+    Outliner = std::move(Opened);
+    return true;
+}
 
 bool FOrvServeSession::Start(std::uint32_t Port, std::string& Error)
 {
@@ -37,6 +53,11 @@ bool FOrvServeSession::Start(std::uint32_t Port, std::string& Error)
         return false;
     }
     Signals = std::make_unique<FOrvStopSignals>(Loop, [this](int) { Loop.Stop(); });
+    if (Outliner)
+    {
+        // The first scan starts only once serving is sure, so a busy port ends the run quietly.
+        Outliner->Start(Console);
+    }
     Print("Serving MCP on " + Endpoint.GetMcpUrl() + "\n");
     return true;
 }

@@ -3,6 +3,7 @@
 #include "Host/Runtime/OrvConsoleInput.h"
 #include "Host/Runtime/OrvHostMcpEndpoint.h"
 #include "Host/Runtime/OrvServeConsole.h"
+#include "Host/Runtime/OrvServeOutliner.h"
 #include "Host/Runtime/OrvStopSignals.h"
 
 #include <cstdint>
@@ -22,10 +23,13 @@ class FOrvServeSession
 {
 public:
     FOrvServeSession(FOrvHostEventLoop& InLoop, FOrvMemoryEditor& InEditor, IOrvImageWrapperModule& Images,
-                     IOrvLog& Log, std::string SceneFile);
+                     IOrvLog& InLog, std::string SceneFile);
     ~FOrvServeSession();
     FOrvServeSession(const FOrvServeSession&) = delete;
     FOrvServeSession& operator=(const FOrvServeSession&) = delete;
+
+    /** Opens the outliner's catalogue source; Start then scans and adds its commands. False with Error. */
+    bool OpenOutliner(const FOrvCatalogSourceOptions& Catalog, std::string& Error);
 
     /** Starts serving on Port and prints the URL line; false with a message for the user in Error. */
     bool Start(std::uint32_t Port, std::string& Error);
@@ -38,6 +42,7 @@ public:
 
     FOrvServeConsole& GetConsole() { return Console; }
     FOrvHostMcpEndpoint& GetEndpoint() { return Endpoint; }
+    FOrvServeOutliner* GetOutliner() { return Outliner.get(); }
 
 private:
     void OnConsoleLine(const std::string& Line);
@@ -45,9 +50,11 @@ private:
 
     FOrvHostEventLoop& Loop;
     FOrvMemoryEditor& Editor;
+    IOrvLog& Log;
     FOrvHostMcpEndpoint Endpoint;
     FOrvServeConsole Console;
     FOrvConsoleInput Input;
     std::unique_ptr<FOrvStopSignals> Signals;
+    std::unique_ptr<FOrvServeOutliner> Outliner;
     bool bPrompt = false;
 };

@@ -106,12 +106,27 @@ FOrvToolCallReply FOrvServedHost::CallTool(std::string_view Name, std::string_vi
 
 std::string FOrvServedHost::Console(std::string_view Command)
 {
-    if (!Child.Write(std::string(Command) + "\n"))
+    // The console answers an unknown command with one known line: it marks the end of the answer.
+    constexpr std::string_view EndLine = "Unknown command \"#orv-end\"; type help for the list.";
+    if (!Child.Write(std::string(Command) + "\n#orv-end\n"))
     {
         return {};
     }
-    const auto Line = Child.WaitForOutputLine(
-        [](const std::string& Text) { return !Text.empty() && Text.rfind("Console ready", 0) != 0; },
+    std::string Answer;
+    // Without the end line the host stopped (quit) or timed out: what came is the answer.
+    Child.WaitForOutputLine(
+        [&](const std::string& Text)
+        {
+            if (Text == EndLine)
+            {
+                return true;
+            }
+            if (!Text.empty() && Text.rfind("Console ready", 0) != 0)
+            {
+                Answer += (Answer.empty() ? "" : "\n") + Text;
+            }
+            return false;
+        },
         ConsoleTimeoutSeconds);
-    return Line.value_or(std::string());
+    return Answer;
 }

@@ -49,7 +49,7 @@ public:
     /** tools/call with an arguments object written as JSON text. */
     FOrvToolCallReply CallTool(std::string_view Name, std::string_view ArgumentsJson = "{}");
 
-    /** Writes a console command and returns the console's first answer line. */
+    /** Runs a console command; its whole answer, lines joined by line feeds, without the last one. */
     std::string Console(std::string_view Command);
 
 private:
