@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-/** @brief Where catalogue data comes from: an offline file, the HTTP service, or the built-in demo catalogue. */
+/** @brief Where catalogue data comes from: an offline file, the HTTP service or the demo catalogue. */
 struct FOrvCatalogSourceOptions
 {
     std::string CatalogFile; ///< --catalog FILE

@@ -9,9 +9,11 @@ namespace
 {
     void AddCatalogOptions(CLI::App& Command, FOrvCatalogSourceOptions& Catalog)
     {
-        auto* CatalogFile = Command.add_option("--catalog", Catalog.CatalogFile,
-                                               "Offline catalogue: a JSON file of product records (see Docs/CatalogFormat.md)")
-                                ->check(CLI::ExistingFile);
+        auto* CatalogFile =
+            Command
+                .add_option("--catalog", Catalog.CatalogFile,
+                            "Offline catalogue: a JSON file of product records (see Docs/CatalogFormat.md)")
+                ->check(CLI::ExistingFile);
         auto* Api = Command.add_option("--api", Catalog.ApiUrl,
                                        "Base URL of the catalogue service, e.g. http://127.0.0.1:8080");
         CatalogFile->excludes(Api);
@@ -19,8 +21,10 @@ namespace
 
     void AddSceneOption(CLI::App& Command, std::string& SceneFile)
     {
-        Command.add_option("--scene", SceneFile, "Level to load: a JSON scene file (see Docs/SceneFormat.md); "
-                                                 "default: the built-in demo room")
+        Command
+            .add_option("--scene", SceneFile,
+                        "Level to load: a JSON scene file (see Docs/SceneFormat.md); "
+                        "default: the built-in demo room")
             ->check(CLI::ExistingFile);
     }
 } // namespace
@@ -35,18 +39,22 @@ int main(int Argc, char** Argv)
 
     FOrvServeOptions Serve;
     auto* ServeCommand = App.add_subcommand(
-        "serve", "Serve the MCP endpoint on http://127.0.0.1:PORT/mcp with a console for undo, redo, save and quit");
+        "serve",
+        "Serve the MCP endpoint on http://127.0.0.1:PORT/mcp (the URL line is printed once listening),\n"
+        "with a console on standard input: list, undo, redo, history, save [FILE], the outliner\n"
+        "(tree, select, hide, show, export) and quit. Ctrl+C or SIGTERM stop it cleanly.");
     AddSceneOption(*ServeCommand, Serve.SceneFile);
     ServeCommand->add_option("--port", Serve.Port, "Port to listen on (0 lets the system choose)")
         ->capture_default_str()
         ->check(CLI::Range(0, 65535));
     AddCatalogOptions(*ServeCommand, Serve.Catalog);
     ServeCommand->add_flag("--verbose,-v", Serve.bVerbose, "Also print Verbose log lines");
-    ServeCommand->add_flag("--no-console", Serve.bNoConsole, "Do not read console commands from standard input");
+    ServeCommand->add_flag("--no-console", Serve.bNoConsole,
+                           "Do not read console commands from standard input");
 
     FOrvOutlinerOptions Outliner;
-    auto* OutlinerCommand =
-        App.add_subcommand("outliner", "Print the level's catalogue products as the outliner panel shows them");
+    auto* OutlinerCommand = App.add_subcommand(
+        "outliner", "Print the level's catalogue products as the outliner panel shows them");
     AddSceneOption(*OutlinerCommand, Outliner.SceneFile);
     AddCatalogOptions(*OutlinerCommand, Outliner.Catalog);
     OutlinerCommand->add_flag("--verbose,-v", Outliner.bVerbose, "Also print Verbose log lines");
@@ -63,19 +71,23 @@ int main(int Argc, char** Argv)
     ScheduleCommand->add_option("-o,--output", Schedule.OutputFile,
                                 "File to write, \".csv\" added when missing (default: "
                                 "<Project>_ProductSchedule_R<Revision>.csv in the current directory)");
-    ScheduleCommand->add_flag("--force", Schedule.bForce,
-                              "Replace the output file if it exists (without it, an existing file is kept and "
-                              "the command fails)");
+    ScheduleCommand->add_flag(
+        "--force", Schedule.bForce,
+        "Replace the output file if it exists (without it, an existing file is kept and "
+        "the command fails)");
     ScheduleCommand->add_flag("--verbose,-v", Schedule.bVerbose, "Also print Verbose log lines");
 
     FOrvCardsOptions Cards;
     auto* CardsCommand = App.add_subcommand(
         "cards", "Print Markdown product cards for catalogue product records (a JSON array, or an object "
                  "with a \"products\" member; see Docs/Cards.md)");
-    CardsCommand->add_option("--full", Cards.FullCards, "How many products get a full card; the rest are "
-                                                        "listed compactly")
+    CardsCommand
+        ->add_option("--full", Cards.FullCards,
+                     "How many products get a full card; the rest are "
+                     "listed compactly")
         ->capture_default_str();
-    CardsCommand->add_option("FILE", Cards.InputFile, "Records file, or - for standard input")->capture_default_str();
+    CardsCommand->add_option("FILE", Cards.InputFile, "Records file, or - for standard input")
+        ->capture_default_str();
 
     CLI11_PARSE(App, Argc, Argv);
 
