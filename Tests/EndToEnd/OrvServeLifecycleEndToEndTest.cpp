@@ -69,6 +69,10 @@ TEST(FOrvServeLifecycleEndToEndTest, BusyPortExitsWithAHintBeforeServing)
     EXPECT_NE(Second.GetErrors().find("port " + Port + " is already in use; pick another with --port"),
               std::string::npos)
         << Second.GetErrors();
+    EXPECT_NE(
+        Second.GetErrors().find("LogOrvMcp: Warning: Orv MCP: failed to acquire HTTP router on port " + Port),
+        std::string::npos)
+        << Second.GetErrors();
     EXPECT_EQ(Second.GetOutput().find("Serving MCP"), std::string::npos);
     EXPECT_EQ(First.Client().Get("/health").Status, 200) << "the first host keeps serving";
 }
