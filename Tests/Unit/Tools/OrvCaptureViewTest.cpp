@@ -54,9 +54,13 @@ TEST(FOrvCaptureViewTest, TheEditorViewportComesBackAsAJpegOfItsOwnSize)
     EXPECT_EQ(
         tjDecompressHeader3(Decoder, Image.data(), Image.size(), &Width, &Height, &Subsampling, &Colourspace),
         0);
-    tjDestroy(Decoder);
     EXPECT_EQ(Width, 320);
     EXPECT_EQ(Height, 200);
+    // The whole image decodes: the block carries a complete JPEG, not just a valid header.
+    std::vector<unsigned char> Pixels(320 * 200 * 4);
+    EXPECT_EQ(tjDecompress2(Decoder, Image.data(), Image.size(), Pixels.data(), 320, 0, 200, TJPF_BGRA, 0), 0)
+        << tjGetErrorStr2(Decoder);
+    tjDestroy(Decoder);
 }
 
 TEST(FOrvCaptureViewTest, EncoderGetsTheWholeFrameOpaqueAndTheClientAnImageBlock)
