@@ -2,6 +2,8 @@
 // wrk with keep-alive. The bare server answers the exact bytes the endpoint answers, so the ratio is
 // the cost of the host's HTTP module, router and JSON-RPC handler. Usage:
 //   OrvHttpThroughputBenchmark [SECONDS_PER_RUN] [WRK_SCRIPT]
+// Each server is measured in alternating rounds and its best round counts: on a shared machine other
+// work only ever lowers a rate, so the best round is the least disturbed one.
 #include "Host/Editor/OrvDemoScene.h"
 #include "Host/Editor/OrvMemoryEditor.h"
 #include "Host/Editor/OrvSceneFile.h"
@@ -11,6 +13,7 @@
 #include "Host/Runtime/OrvHostEventLoop.h"
 #include "Host/Runtime/OrvHostMcpEndpoint.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <cstdlib>
@@ -223,7 +226,7 @@ namespace
 
 int main(int Argc, char** Argv)
 {
-    const int Seconds = Argc > 1 ? std::max(1, std::atoi(Argv[1])) : 3;
+    const int Seconds = Argc > 1 ? std::max(1, std::atoi(Argv[1])) : 2;
     const std::string Script =
         Argc > 2 ? Argv[2] : (std::filesystem::path(__FILE__).parent_path() / "orv-wrk-post.lua").string();
     if (std::system("command -v wrk > /dev/null 2>&1") != 0 || !std::filesystem::exists(Script))
@@ -242,22 +245,36 @@ int main(int Argc, char** Argv)
     const FCase Cases[] = {{"ping", R"({"jsonrpc":"2.0","id":1,"method":"ping"})"},
                            {"tools/list", R"({"jsonrpc":"2.0","id":2,"method":"tools/list"})"}};
 
-    std::printf("HTTP throughput over loopback, wrk -t1 -c16 keep-alive, %d s per run\n", Seconds);
+    constexpr int Rounds = 3;
+    std::printf("HTTP throughput over loopback, wrk -t1 -c16 keep-alive, best of %d rounds of %d s\n", Rounds,
+                Seconds);
     std::printf("%-12s %10s %14s %14s %8s\n", "request", "answer B", "bare req/s", "host req/s", "ratio");
     bool bAllMet = true;
     for (const FCase& Case : Cases)
     {
         Bare.Body = FetchAnswer(Host.Port(), Case.Body);
-        const std::optional<double> BareRate = RunWrk(Bare.Port(), Case.Body, Script, Seconds);
-        const std::optional<double> HostRate = RunWrk(Host.Port(), Case.Body, Script, Seconds);
-        if (!BareRate || !HostRate || *BareRate <= 0)
+        double BareRate = 0;
+        double HostRate = 0;
+        for (int Round = 0; Round < Rounds; ++Round)
         {
-            std::fprintf(stderr, "wrk failed for %s\n", Case.Name);
+            const std::optional<double> BareRound = RunWrk(Bare.Port(), Case.Body, Script, Seconds);
+            const std::optional<double> HostRound = RunWrk(Host.Port(), Case.Body, Script, Seconds);
+            if (!BareRound || !HostRound)
+            {
+                std::fprintf(stderr, "wrk failed for %s\n", Case.Name);
+                return 1;
+            }
+            BareRate = std::max(BareRate, *BareRound);
+            HostRate = std::max(HostRate, *HostRound);
+        }
+        if (BareRate <= 0)
+        {
+            std::fprintf(stderr, "the bare server answered nothing for %s\n", Case.Name);
             return 1;
         }
-        const double Ratio = *HostRate / *BareRate;
+        const double Ratio = HostRate / BareRate;
         bAllMet = bAllMet && Ratio >= 0.5;
-        std::printf("%-12s %10zu %14.0f %14.0f %7.2fx\n", Case.Name, Bare.Body.size(), *BareRate, *HostRate,
+        std::printf("%-12s %10zu %14.0f %14.0f %7.2fx\n", Case.Name, Bare.Body.size(), BareRate, HostRate,
                     Ratio);
     }
     std::printf("target: host >= 0.5x bare: %s\n", bAllMet ? "met" : "NOT met");
