@@ -106,6 +106,11 @@ bool FOrvConsoleInput::Start(int Descriptor)
     {
         return false;
     }
+    // A character device that is no terminal (/dev/null when run in the background) has no lines.
+    if (S_ISCHR(Info.st_mode) && !isatty(Descriptor))
+    {
+        return false;
+    }
     const int Duplicate = dup(Descriptor);
     if (Duplicate < 0)
     {
