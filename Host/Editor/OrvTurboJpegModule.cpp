@@ -67,6 +67,8 @@ namespace
             return true;
         }
 
+        bool KeepsAlpha() const override { return false; }
+
         std::span<const std::uint8_t> GetCompressed(std::int32_t Quality) override
         {
             if (!Raw || !Encoder->Handle || !Encoder->Reserve(RawWidth, RawHeight))

@@ -59,6 +59,7 @@ class FOrvFakeImageWrapperModule : public IOrvImageWrapperModule
 public:
     bool bCreatesWrapper = true;
     bool bSetRawSucceeds = true;
+    bool bKeepsAlpha = true; ///< like an encoder of a format with transparency (PNG), unlike JPEG
     std::vector<std::uint8_t> Output = {0xFF, 0xD8, 0xFF, 0xE0, 'f', 'a', 'k', 'e', 0xFF, 0xD9};
     FOrvFakeJpegRecord Record;
 
@@ -88,6 +89,8 @@ private:
             Record.Height = Height;
             return Module.bSetRawSucceeds;
         }
+
+        bool KeepsAlpha() const override { return Module.bKeepsAlpha; }
 
         std::span<const std::uint8_t> GetCompressed(std::int32_t Quality) override
         {

@@ -15,6 +15,7 @@ public:
 
     virtual bool SetRaw(const void* Data, std::int64_t SizeInBytes, std::int32_t Width,
                         std::int32_t Height) override;
+    virtual bool KeepsAlpha() const override { return false; }
     virtual std::span<const std::uint8_t> GetCompressed(std::int32_t Quality) override;
 
     /** The quality handed to the engine's JPEG encoder for a requested quality of 1-100. */

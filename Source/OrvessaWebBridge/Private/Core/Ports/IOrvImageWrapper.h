@@ -14,6 +14,9 @@ public:
     virtual bool SetRaw(const void* Data, std::int64_t SizeInBytes, std::int32_t Width,
                         std::int32_t Height) = 0;
 
+    /** Whether the encoded image keeps the alpha channel (a JPEG never does: its encoder skips that byte). */
+    virtual bool KeepsAlpha() const = 0;
+
     /** The compressed image at Quality (1-100); empty on failure; valid until the next call. */
     virtual std::span<const std::uint8_t> GetCompressed(std::int32_t Quality) = 0;
 };

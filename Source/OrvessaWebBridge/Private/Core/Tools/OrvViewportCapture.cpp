@@ -85,12 +85,18 @@ FOrvMcpContent FOrvViewportCapture::Capture(IOrvViewport& Viewport, IOrvImageWra
         return OrvCaptureError(FOrvStrings::Printf(OrvCaptureSizeMismatch, static_cast<int>(Pixels.size()),
                                                    static_cast<int>(Expected)));
     }
-    OrvCaptureMakeOpaque(Pixels);
 
     const std::unique_ptr<IOrvImageWrapper> Wrapper = Images.CreateJpegWrapper();
     if (!Wrapper)
     {
         return OrvCaptureError(OrvCaptureNoWrapper);
+    }
+    // The read-back surface may carry any alpha, and an image must not come out see-through. A JPEG
+    // has no alpha channel (its encoder skips the fourth byte), so there the pass would change no
+    // output byte and only cost a full read and write of the frame: it runs for encoders that keep alpha.
+    if (Wrapper->KeepsAlpha())
+    {
+        OrvCaptureMakeOpaque(Pixels);
     }
     if (!Wrapper->SetRaw(Pixels.data(), Expected * 4, Size.X, Size.Y))
     {
