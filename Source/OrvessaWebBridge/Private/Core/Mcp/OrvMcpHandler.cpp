@@ -43,6 +43,26 @@ namespace
     }
 
     using FOrvMcpToolBody = void (FOrvMcpHandler::*)(const rapidjson::Value&, FOrvMcpToolCompletion);
+
+    // The tool list never changes while the server runs (listChanged is false), so its text after the
+    // id is written once; each answer then only writes the id in front of it.
+    std::string OrvMcpToolsListEnvelope(const rapidjson::Value& Id)
+    {
+        static const std::string Tail = []
+        {
+            const std::string Full =
+                FOrvMcpHandler::MakeResultEnvelope(OrvMcpNullId(), &FOrvMcpHandler::BuildToolsList);
+            return Full.substr(Full.find(",\r\n\t\"result\":"));
+        }();
+        std::string Out;
+        Out.reserve(64 + Tail.size());
+        FOrvJsonWriter Writer(Out);
+        Writer.BeginObject();
+        Writer.String("jsonrpc", "2.0");
+        Writer.Value("id", Id);
+        Out.append(Tail);
+        return Out;
+    }
 } // namespace
 
 FOrvMcpHandler::FOrvMcpHandler(const FOrvMcpPorts& InPorts)
@@ -83,7 +103,7 @@ void FOrvMcpHandler::DispatchRequest(const std::shared_ptr<rapidjson::Document>&
     }
     else if (FOrvStrings::EqualsIgnoreCase(MethodName, "tools/list"))
     {
-        OrvMcpRespond(OnComplete, MakeResultEnvelope(Id, &FOrvMcpHandler::BuildToolsList));
+        OrvMcpRespond(OnComplete, OrvMcpToolsListEnvelope(Id));
     }
     else if (FOrvStrings::EqualsIgnoreCase(MethodName, "tools/call"))
     {

@@ -44,7 +44,8 @@ public:
     static std::string MakeResultEnvelope(const rapidjson::Value& Id, const FOrvResultWriter& WriteResult);
 
     /** {"jsonrpc":"2.0","id":Id,"error":{"code":Code,"message":Message}} as pretty text. */
-    static std::string MakeErrorEnvelope(const rapidjson::Value& Id, std::int32_t Code, std::string_view Message);
+    static std::string MakeErrorEnvelope(const rapidjson::Value& Id, std::int32_t Code,
+                                         std::string_view Message);
 
     /** The result envelope of a tool call: {"content":[block]}. */
     static std::string MakeToolResultEnvelope(const rapidjson::Value& Id, const FOrvMcpContent& Content);
@@ -58,8 +59,10 @@ public:
 private:
     using FOrvEnvelopeCallback = std::function<void(std::string EnvelopeText)>;
 
-    void DispatchRequest(const std::shared_ptr<rapidjson::Document>& Request, FOrvEnvelopeCallback OnComplete);
-    void ExecuteTool(std::string_view Name, const rapidjson::Value& Arguments, FOrvMcpToolCompletion OnComplete);
+    void DispatchRequest(const std::shared_ptr<rapidjson::Document>& Request,
+                         FOrvEnvelopeCallback OnComplete);
+    void ExecuteTool(std::string_view Name, const rapidjson::Value& Arguments,
+                     FOrvMcpToolCompletion OnComplete);
 
     // Scene tools.
     void ToolUeListScene(const rapidjson::Value& Arguments, FOrvMcpToolCompletion OnComplete);
