@@ -6,16 +6,7 @@ void OrvLogf(IOrvLog& Log, EOrvLogCategory Category, EOrvLogVerbosity Verbosity,
 {
     va_list Args;
     va_start(Args, Format);
-    va_list Copy;
-    va_copy(Copy, Args);
-    const int Needed = std::vsnprintf(nullptr, 0, Format, Copy);
-    va_end(Copy);
-    std::string Message;
-    if (Needed > 0)
-    {
-        Message.resize(static_cast<std::size_t>(Needed));
-        std::vsnprintf(Message.data(), Message.size() + 1, Format, Args);
-    }
+    const std::string Message = FOrvStrings::VPrintf(Format, Args);
     va_end(Args);
     Log.Log(Category, Verbosity, Message);
 }

@@ -126,6 +126,13 @@ std::string FOrvStrings::Printf(const char* Format, ...)
 {
     va_list Args;
     va_start(Args, Format);
+    std::string Result = VPrintf(Format, Args);
+    va_end(Args);
+    return Result;
+}
+
+std::string FOrvStrings::VPrintf(const char* Format, va_list Args)
+{
     va_list Copy;
     va_copy(Copy, Args);
     const int Needed = std::vsnprintf(nullptr, 0, Format, Copy);
@@ -136,7 +143,6 @@ std::string FOrvStrings::Printf(const char* Format, ...)
         Result.resize(static_cast<std::size_t>(Needed));
         std::vsnprintf(Result.data(), Result.size() + 1, Format, Args);
     }
-    va_end(Args);
     return Result;
 }
 

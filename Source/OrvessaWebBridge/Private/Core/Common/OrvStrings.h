@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdarg>
 #include <string>
 #include <string_view>
 
@@ -32,6 +33,9 @@ struct FOrvStrings
 
     /** printf-style formatting into a new string. */
     static std::string Printf(const char* Format, ...) ORV_PRINTF_FORMAT(1, 2);
+
+    /** Printf over an argument list (for other variadic wrappers). */
+    static std::string VPrintf(const char* Format, va_list Args) ORV_PRINTF_FORMAT(1, 0);
 
     /** Replaces every occurrence of From (exact case) with To. */
     static std::string ReplaceAll(std::string_view Text, std::string_view From, std::string_view To);
