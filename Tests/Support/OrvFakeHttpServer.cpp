@@ -6,10 +6,8 @@
 FOrvHttpRouteHandle FOrvFakeHttpRouter::BindRoute(std::string_view Path, EOrvHttpVerb Verb,
                                                   FOrvHttpRequestHandler Handler)
 {
-    const bool bTaken =
-        std::any_of(BoundRoutes.begin(), BoundRoutes.end(),
-                    [&](const FRoute& Route) { return Route.Path == Path && Route.Verb == Verb; });
-    if (bTaken)
+    if (std::ranges::any_of(BoundRoutes,
+                            [&](const FRoute& Route) { return Route.Path == Path && Route.Verb == Verb; }))
     {
         return {};
     }
@@ -41,7 +39,6 @@ FOrvFakeHttpExchange FOrvFakeHttpRouter::Send(EOrvHttpVerb Verb, std::string_vie
         FOrvHttpResultCallback OnComplete =
             [Responses = Exchange.Responses](std::unique_ptr<FOrvHttpResponse> Response)
         { Responses->push_back(Response ? std::move(*Response) : FOrvHttpResponse{}); };
-        Exchange.bRouted = true;
         Exchange.bHandled = Route.Handler(Request, OnComplete);
         break;
     }
@@ -56,11 +53,7 @@ std::shared_ptr<IOrvHttpRouter> FOrvFakeHttpServerModule::GetHttpRouter(std::uin
         return nullptr;
     }
     std::shared_ptr<FOrvFakeHttpRouter>& Router = Routers[Port];
-    if (!Router)
-    {
-        Router = std::make_shared<FOrvFakeHttpRouter>();
-    }
-    return Router;
+    return Router ? Router : Router = std::make_shared<FOrvFakeHttpRouter>();
 }
 
 FOrvFakeHttpRouter* FOrvFakeHttpServerModule::FindRouter(std::uint32_t Port)

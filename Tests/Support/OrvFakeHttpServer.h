@@ -12,8 +12,7 @@
 /** @brief What one request sent through the fake router got back, so far. */
 struct FOrvFakeHttpExchange
 {
-    bool bRouted = false;  ///< a bound route matched the path and verb
-    bool bHandled = false; ///< the route handler returned true
+    bool bHandled = false; ///< a route matched and its handler returned true
     /** Responses passed to the completion; a deferred one lands here after Send returned. */
     std::shared_ptr<std::vector<FOrvHttpResponse>> Responses =
         std::make_shared<std::vector<FOrvHttpResponse>>();
@@ -38,7 +37,6 @@ public:
     /** Delivers a request to the route bound to its path and verb, as the HTTP server would. */
     FOrvFakeHttpExchange Send(EOrvHttpVerb Verb, std::string_view Path, std::string Body = {});
 
-    /** The bound routes in binding order. */
     const std::vector<FRoute>& Routes() const { return BoundRoutes; }
 
     int UnbindCount = 0;
@@ -56,7 +54,6 @@ public:
     void StartAllListeners() override { ++StartCount; }
     void StopAllListeners() override { ++StopCount; }
 
-    /** The router made for Port, or null when none was asked for. */
     FOrvFakeHttpRouter* FindRouter(std::uint32_t Port);
 
     bool bRefuseRouters = false; ///< answer null, as a host whose port cannot be bound does

@@ -3,6 +3,8 @@
 #include "Core/Json/OrvJson.h"
 #include "Core/Json/OrvJsonWriter.h"
 
+#include <gtest/gtest.h>
+
 #include <limits>
 #include <ostream>
 
@@ -20,11 +22,6 @@ namespace
         }
         Body += "}}";
         return Body;
-    }
-
-    std::string OrvRigString(const rapidjson::Value& Object, const char* Key)
-    {
-        return FOrvJson::GetStringField(Object, Key);
     }
 } // namespace
 
@@ -56,24 +53,17 @@ FOrvToolReply FOrvToolTestRig::Call(std::string_view Name, std::string_view Argu
 {
     std::vector<std::string> Responses;
     CallLater(Name, ArgumentsJson, Responses);
-    FOrvToolReply Reply;
-    Reply.bAnsweredBeforePump = !Responses.empty();
+    const bool bAnsweredBeforePump = !Responses.empty();
     GameThread.RunPending();
-    if (Responses.empty())
-    {
-        return Reply;
-    }
-    const bool bAnsweredBeforePump = Reply.bAnsweredBeforePump;
-    Reply = FOrvToolReply::Parse(Responses.front());
+    EXPECT_EQ(Responses.size(), 1u) << Name;
+    FOrvToolReply Reply = Responses.empty() ? FOrvToolReply{} : FOrvToolReply::Parse(Responses.front());
     Reply.bAnsweredBeforePump = bAnsweredBeforePump;
-    Reply.ResponseCount = static_cast<int>(Responses.size());
     return Reply;
 }
 
 FOrvToolReply FOrvToolReply::Parse(std::string Envelope)
 {
     FOrvToolReply Reply;
-    Reply.ResponseCount = 1;
     Reply.Envelope = std::move(Envelope);
     rapidjson::Document Document;
     if (!FOrvJson::ParseObject(Reply.Envelope, Document))
@@ -87,9 +77,9 @@ FOrvToolReply FOrvToolReply::Parse(std::string Envelope)
         return Reply;
     }
     const rapidjson::Value& Block = (*Content)[0];
-    Reply.Type = OrvRigString(Block, "type");
-    Reply.Text = OrvRigString(Block, Reply.Type == "image" ? "data" : "text");
-    Reply.MimeType = OrvRigString(Block, "mimeType");
+    Reply.Type = FOrvJson::GetStringField(Block, "type");
+    Reply.Text = FOrvJson::GetStringField(Block, Reply.Type == "image" ? "data" : "text");
+    Reply.MimeType = FOrvJson::GetStringField(Block, "mimeType");
     return Reply;
 }
 

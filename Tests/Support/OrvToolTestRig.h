@@ -15,15 +15,13 @@
 /** @brief The one content block a tools/call answered with, as a client reads it. */
 struct FOrvToolReply
 {
-    int ResponseCount = 0;            ///< responses received; the contract is exactly one
     bool bAnsweredBeforePump = false; ///< a response arrived before the game thread ran
     std::string Type;                 ///< "text" or "image"; empty when the answer was no tool result
     std::string Text;                 ///< the text, or the image's Base64 data
     std::string MimeType;             ///< images only
     std::string Envelope;             ///< the whole response text
 
-    /** The text parsed as JSON (structured results and error objects). */
-    rapidjson::Document Json() const;
+    rapidjson::Document Json() const; ///< the text parsed as JSON
 
     /** The block of one tools/call response envelope; Type stays empty when it holds no single block. */
     static FOrvToolReply Parse(std::string Envelope);
@@ -33,7 +31,7 @@ struct FOrvToolReply
 enum class EOrvRigViewport
 {
     Editor,
-    Fake,
+    Fake
 };
 
 /**
@@ -45,21 +43,18 @@ class FOrvToolTestRig
 public:
     explicit FOrvToolTestRig(EOrvRigViewport ViewportKind = EOrvRigViewport::Editor);
 
-    /** Sends tools/call with Name and ArgumentsJson (an object text, or empty for none), pumps, reads the
-     * block. */
+    /** Sends tools/call (ArgumentsJson empty: no arguments member), pumps, reads the block. */
     FOrvToolReply Call(std::string_view Name, std::string_view ArgumentsJson = "{}");
 
     /** Sends tools/call without pumping; the game thread must be run by the test. */
     void CallLater(std::string_view Name, std::string_view ArgumentsJson,
                    std::vector<std::string>& OutResponses);
 
-    /** Adds a catalogue mesh "/Game/ORVESSA/<Folder>/<Name>" with a valid product tag ProductId (none when
-     * empty). */
+    /** Adds "/Game/ORVESSA/<Folder>/<Name>" with a valid product tag ProductId (none when empty). */
     FOrvMeshRef AddCatalogMesh(const std::string& Folder, const std::string& Name,
                                const std::string& ProductId,
                                const FOrvBox& Bounds = {{-50, -25, 0}, {50, 25, 90}});
 
-    /** Places a static mesh actor with Mesh and returns its ref. */
     FOrvActorRef AddMeshActor(FOrvMeshRef Mesh, const FOrvTransform& Transform = {},
                               const std::string& Label = {});
 

@@ -53,14 +53,11 @@ TEST(FOrvMemoryEditorLevelTest, LabelsAreFreeTextAndAnEmptyLabelFallsBackToTheNa
 TEST(FOrvMemoryEditorLevelTest, WithoutAnEditorWorldTheWorldPortsAreEmptyAndRefuseChanges)
 {
     FOrvMemoryEditor Editor;
-    Editor.SetMapName("DemoRoom");
     const FOrvActorRef Actor = Editor.AddActor({"", "Chair", "StaticMeshActor", {{1, 2, 3}, {}}, {}, true});
     Editor.SetEditorWorldAvailable(false);
 
-    EXPECT_FALSE(Editor.World().HasEditorWorld());
     EXPECT_TRUE(Editor.World().GetActors().empty());
     EXPECT_FALSE(Editor.World().IsActorAlive(Actor));
-    EXPECT_EQ(Editor.World().GetMapName(), "");
     EXPECT_FALSE(Editor.Editing().SpawnStaticMeshActor({}, {}));
     EXPECT_FALSE(Editor.Editing().EditorDestroyActor(Actor));
     EXPECT_FALSE(Editor.LevelEvents().AddActorHandlers({}, {}).IsValid());
@@ -95,33 +92,4 @@ TEST(FOrvMemoryEditorLevelTest, SelectionKeepsOrderSkipsDuplicatesAndLosesDestro
     EXPECT_EQ(Editor.GetSelectedActors(), std::vector<FOrvActorRef>{A});
     Editor.Selection().SelectNone();
     EXPECT_TRUE(Editor.GetSelectedActors().empty());
-}
-
-TEST(FOrvMemoryEditorLevelTest, WithoutAViewportTheViewportPortReportsNone)
-{
-    FOrvMemoryEditor Editor;
-    EXPECT_TRUE(Editor.Viewport().HasActiveViewport()) << "an editor opens with a level viewport";
-    Editor.SetViewport(std::nullopt);
-    EXPECT_FALSE(Editor.Viewport().HasActiveViewport());
-    EXPECT_FALSE(Editor.Viewport().HasClientViewport());
-    EXPECT_FALSE(Editor.Viewport().GetLevelViewportView().has_value());
-    EXPECT_EQ(Editor.Viewport().GetViewportSize().X, 0);
-    std::vector<FOrvColor> Pixels;
-    EXPECT_FALSE(Editor.Viewport().ReadPixels(Pixels));
-}
-
-TEST(FOrvMemoryEditorLevelTest, TheViewReadsTheTransformOfTheCurrentProjection)
-{
-    FOrvMemoryEditor Editor;
-    FOrvMemoryViewportDesc Viewport;
-    Viewport.PerspectiveView = {{1, 2, 3}, {-10, 20, 0}};
-    Viewport.OrthographicView = {{0, 0, 900}, {-90, 0, 0}};
-    Viewport.FieldOfView = 75;
-    Editor.SetViewport(Viewport);
-    EXPECT_EQ(Editor.Viewport().GetLevelViewportView()->Location, (FOrvVector{1, 2, 3}));
-    EXPECT_EQ(Editor.Viewport().GetLevelViewportView()->FieldOfView, 75);
-
-    Viewport.bPerspective = false;
-    Editor.SetViewport(Viewport);
-    EXPECT_EQ(Editor.Viewport().GetLevelViewportView()->Rotation, (FOrvRotator{-90, 0, 0}));
 }

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstring>
 #include <vector>
 
@@ -54,7 +55,7 @@ namespace
 
     bool Same(const FOrvColor& A, const FOrvColor& B)
     {
-        return A.B == B.B && A.G == B.G && A.R == B.R && A.A == B.A;
+        return std::memcmp(&A, &B, sizeof(FOrvColor)) == 0;
     }
 
     bool SamePictures(const std::vector<FOrvColor>& A, const std::vector<FOrvColor>& B)
@@ -93,10 +94,7 @@ TEST(FOrvSoftwareRendererTest, TheSameSceneAndCameraGiveTheSamePixels)
     const std::vector<FOrvColor> First = Render(FrontCamera(), Boxes);
     ASSERT_EQ(First.size(), static_cast<std::size_t>(Width * Height));
     EXPECT_TRUE(SamePictures(First, Render(FrontCamera(), Boxes)));
-    for (const FOrvColor& Pixel : First)
-    {
-        ASSERT_EQ(Pixel.A, 255);
-    }
+    EXPECT_TRUE(std::ranges::all_of(First, [](const FOrvColor& Pixel) { return Pixel.A == 255; }));
     EXPECT_TRUE(
         Same(FOrvSoftwareRenderer::TintFor("FNV-CH-1102"), FOrvSoftwareRenderer::TintFor("FNV-CH-1102")));
     EXPECT_FALSE(
@@ -144,8 +142,7 @@ TEST(FOrvSoftwareRendererTest, NearerBoxesHideFartherOnesWhateverTheDrawingOrder
     const FOrvRenderBox Near = Box({-100, 0, 0}, 30, 30, 200, Red);
     const FOrvRenderBox Far = Box({200, 0, 0}, 30, 30, 200, Blue);
     const std::vector<FOrvColor> NearFirst = Render(FrontCamera(), {Near, Far});
-    const std::vector<FOrvColor> FarFirst = Render(FrontCamera(), {Far, Near});
-    EXPECT_TRUE(SamePictures(NearFirst, FarFirst));
+    EXPECT_TRUE(SamePictures(NearFirst, Render(FrontCamera(), {Far, Near})));
     EXPECT_TRUE(SamePictures(NearFirst, Render(FrontCamera(), {Near})));
 }
 
@@ -169,27 +166,24 @@ TEST(FOrvSoftwareRendererTest, ViewportShowsLevelChangesAndHidesHiddenActors)
     const FOrvMeshRef Mesh =
         Editor.AddStaticMesh({"/Game/ORVESSA/A/SM_Cabinet", {{-50, -50, 0}, {50, 50, 200}}, {}});
 
-    std::vector<FOrvColor> Empty;
-    ASSERT_TRUE(Editor.Viewport().ReadPixels(Empty));
+    const auto Read = [&Editor]
+    {
+        std::vector<FOrvColor> Pixels;
+        EXPECT_TRUE(Editor.Viewport().ReadPixels(Pixels));
+        return Pixels;
+    };
+    const std::vector<FOrvColor> Empty = Read();
     const FOrvActorRef Cabinet = Editor.AddActor({"", "", "StaticMeshActor", {{0, 0, 0}, {}}, {Mesh}, true});
-    std::vector<FOrvColor> Placed;
-    Editor.Viewport().ReadPixels(Placed);
+    const std::vector<FOrvColor> Placed = Read();
     EXPECT_FALSE(SamePictures(Empty, Placed));
 
     {
         FOrvScopedTransaction Transaction(Editor.Transactions(), "Move");
         Editor.Editing().SetActorTransform(Cabinet, FOrvVector{0, 300, 0}, std::nullopt);
     }
-    std::vector<FOrvColor> Moved;
-    Editor.Viewport().ReadPixels(Moved);
-    EXPECT_FALSE(SamePictures(Placed, Moved));
+    EXPECT_FALSE(SamePictures(Placed, Read()));
     Editor.Undo();
-    std::vector<FOrvColor> Undone;
-    Editor.Viewport().ReadPixels(Undone);
-    EXPECT_TRUE(SamePictures(Placed, Undone));
-
+    EXPECT_TRUE(SamePictures(Placed, Read()));
     Editor.Editing().SetTemporarilyHidden(Cabinet, true);
-    std::vector<FOrvColor> Hidden;
-    Editor.Viewport().ReadPixels(Hidden);
-    EXPECT_TRUE(SamePictures(Empty, Hidden));
+    EXPECT_TRUE(SamePictures(Empty, Read()));
 }

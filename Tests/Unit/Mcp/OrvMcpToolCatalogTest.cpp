@@ -11,12 +11,10 @@
 
 namespace
 {
-    // The published catalogue, as AI clients read it: a changed byte here is a changed product.
+    // The published catalogue as AI clients read it (schemas condensed): a changed byte is a changed product.
     struct FExpectedTool
     {
-        const char* Name;
-        const char* Description;
-        const char* Schema; ///< condensed, keys in order; argument texts are part of the contract too
+        const char *Name, *Description, *Schema;
     };
 
     const FExpectedTool ExpectedTools[] = {
@@ -114,8 +112,8 @@ namespace
     protected:
         void SetUp() override
         {
-            const std::vector<std::string> Responses = OrvSendMcpRequest(
-                Handler, Editor.GameThread, R"({"jsonrpc":"2.0","id":1,"method":"tools/list"})");
+            const std::vector<std::string> Responses =
+                OrvSendMcpRequest(Handler, Editor.GameThread, R"({"id":1,"method":"tools/list"})");
             ASSERT_EQ(Responses.size(), 1u);
             Text = Responses.front();
             ASSERT_FALSE(Response.Parse(Text.c_str()).HasParseError()) << Text;
@@ -131,44 +129,28 @@ namespace
     };
 } // namespace
 
-TEST_F(FOrvMcpToolCatalogTest, ListsTheNineToolsInOrderAndNothingElse)
+TEST_F(FOrvMcpToolCatalogTest, ListsTheNineToolsInOrderWithTheirExactDescriptionsAndSchemas)
 {
     EXPECT_EQ(Response["result"].MemberCount(), 1u) << "no paging cursor or other member";
     ASSERT_EQ(Tools().Size(), std::size(ExpectedTools));
     for (rapidjson::SizeType Index = 0; Index < Tools().Size(); ++Index)
     {
         const rapidjson::Value& Tool = Tools()[Index];
+        const FExpectedTool& Expected = ExpectedTools[Index];
         std::vector<std::string> Keys;
         for (const auto& Member : Tool.GetObject())
         {
             Keys.emplace_back(Member.name.GetString());
         }
-        EXPECT_EQ(Keys, (std::vector<std::string>{"name", "description", "inputSchema"}));
-        EXPECT_STREQ(Tool["name"].GetString(), ExpectedTools[Index].Name);
-    }
-}
-
-TEST_F(FOrvMcpToolCatalogTest, EveryDescriptionMatchesByteForByte)
-{
-    ASSERT_EQ(Tools().Size(), std::size(ExpectedTools));
-    for (rapidjson::SizeType Index = 0; Index < Tools().Size(); ++Index)
-    {
-        const rapidjson::Value& Description = Tools()[Index]["description"];
-        EXPECT_EQ(std::string(Description.GetString(), Description.GetStringLength()),
-                  ExpectedTools[Index].Description)
-            << ExpectedTools[Index].Name;
-    }
-}
-
-TEST_F(FOrvMcpToolCatalogTest, SchemasDeclareArgumentsAndRequireOnlyWhatTheToolNeeds)
-{
-    ASSERT_EQ(Tools().Size(), std::size(ExpectedTools));
-    for (rapidjson::SizeType Index = 0; Index < Tools().Size(); ++Index)
-    {
+        EXPECT_EQ(Keys, (std::vector<std::string>{"name", "description", "inputSchema"})) << Expected.Name;
+        EXPECT_STREQ(Tool["name"].GetString(), Expected.Name);
+        EXPECT_EQ(std::string(Tool["description"].GetString(), Tool["description"].GetStringLength()),
+                  Expected.Description)
+            << Expected.Name;
         std::string Schema;
         FOrvJsonWriter Writer(Schema, EOrvJsonStyle::Condensed);
-        Writer.Value(Tools()[Index]["inputSchema"]);
-        EXPECT_EQ(Schema, ExpectedTools[Index].Schema) << ExpectedTools[Index].Name;
+        Writer.Value(Tool["inputSchema"]);
+        EXPECT_EQ(Schema, Expected.Schema) << Expected.Name;
     }
 }
 
