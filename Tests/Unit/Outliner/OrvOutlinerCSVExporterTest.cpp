@@ -7,6 +7,9 @@
 #include <fstream>
 #include <sstream>
 
+// Product records below name only the fields they need; the rest keep their defaults.
+#pragma GCC diagnostic ignored "-Wmissing-field-initializers"
+
 namespace
 {
     // Golden files are compared byte for byte; ORV_UPDATE_GOLDEN=1 rewrites them (then review the diff).
@@ -31,16 +34,6 @@ namespace
         Product->Actors = std::move(Actors);
         return Product;
     }
-
-    FOrvProductInfo MakeInfo(const std::string& Id, const std::string& Brand, const std::string& Name)
-    {
-        FOrvProductInfo Info;
-        Info.ProductID = Id;
-        Info.Brand = Brand;
-        Info.Name = Name;
-        Info.Category = "";
-        return Info;
-    }
 } // namespace
 
 TEST(FOrvOutlinerCSVExporterTest, ScheduleWithTrickyValuesMatchesTheGoldenFile)
@@ -49,36 +42,39 @@ TEST(FOrvOutlinerCSVExporterTest, ScheduleWithTrickyValuesMatchesTheGoldenFile)
     const FOrvMeshRef Mesh = Rig.AddProductMesh("SM_Any", "ANY");
     FOrvSceneProductMap Products;
 
-    FOrvProductInfo Lc2 = MakeInfo("P-LC2", "Cassina, Milano", "LC2 \"Grand Confort\"");
-    Lc2.Collection = "LC";
-    Lc2.Designer = "Le Corbusier";
-    Lc2.Category = "Armchairs";
-    Lc2.Dimensions = "76 x 70 x 67 cm";
-    Lc2.Weight = "32 kg";
-    Lc2.Website = "https://cassina.com/lc2?a=1,b=2";
-    Lc2.Description = "Tubular steel frame.\nLeather cushions.";
-    Products.Add(MakeProduct(Lc2, Rig.AddActors(Mesh, 2)));
-
+    Products.Add(MakeProduct({.ProductID = "P-LC2",
+                              .Name = "LC2 \"Grand Confort\"",
+                              .Brand = "Cassina, Milano",
+                              .Category = "Armchairs",
+                              .Collection = "LC",
+                              .Designer = "Le Corbusier",
+                              .Dimensions = "76 x 70 x 67 cm",
+                              .Weight = "32 kg",
+                              .Description = "Tubular steel frame.\nLeather cushions.",
+                              .Website = "https://cassina.com/lc2?a=1,b=2"},
+                             Rig.AddActors(Mesh, 2)));
     // All of its actors were deleted after the scan: still a row, with 0.
     const std::vector<FOrvActorRef> Gone = Rig.AddActors(Mesh, 2);
-    Products.Add(MakeProduct(MakeInfo("P-GHOST", "alias", "Ghost"), Gone));
+    Products.Add(
+        MakeProduct({.ProductID = "P-GHOST", .Name = "Ghost", .Brand = "alias", .Category = ""}, Gone));
     for (const FOrvActorRef Actor : Gone)
     {
         Rig.Destroy(Actor);
     }
-
-    FOrvProductInfo Bench = MakeInfo("P-BENCH", "Alias", "Bench");
-    Bench.Category = "Benches";
-    Bench.Description = "Windows line end\r\nin the text";
-    Products.Add(MakeProduct(Bench, Rig.AddActors(Mesh, 1)));
-
+    Products.Add(MakeProduct({.ProductID = "P-BENCH",
+                              .Name = "Bench",
+                              .Brand = "Alias",
+                              .Category = "Benches",
+                              .Description = "Windows line end\r\nin the text"},
+                             Rig.AddActors(Mesh, 1)));
     std::vector<FOrvActorRef> Sacco = Rig.AddActors(Mesh, 3);
     Rig.Destroy(Sacco[0]);
-    FOrvProductInfo SaccoInfo = MakeInfo("P-SACCO", "Zanotta", "Sacco");
-    SaccoInfo.Category = "Poufs";
-    SaccoInfo.Weight = "\"light\"";
-    Products.Add(MakeProduct(SaccoInfo, Sacco));
-
+    Products.Add(MakeProduct({.ProductID = "P-SACCO",
+                              .Name = "Sacco",
+                              .Brand = "Zanotta",
+                              .Category = "Poufs",
+                              .Weight = "\"light\""},
+                             Sacco));
     Products.Add(MakeProduct(FOrvProductInfo::MakePlaceholder("P-UNKNOWN"), Rig.AddActors(Mesh, 1)));
 
     const std::string CSV = FOrvOutlinerCSVExporter::GenerateCSV(Products, "Villa \"Rosa\", Como", "02",
@@ -99,15 +95,12 @@ TEST(FOrvOutlinerCSVExporterTest, EmptyMapStillGivesHeaderTotalAndFooterWithTheF
     EXPECT_EQ(CSV.find('\r'), std::string::npos);
 }
 
+// Commas, quotes and line feeds are pinned by the golden schedule; these are the cases it lacks.
 TEST(FOrvOutlinerCSVExporterTest, FieldsAreQuotedOnlyWhenASpreadsheetNeedsIt)
 {
-    EXPECT_EQ(FOrvOutlinerCSVExporter::EscapeCSVField(""), "");
     EXPECT_EQ(FOrvOutlinerCSVExporter::EscapeCSVField("Plain text; with 'quotes'"),
               "Plain text; with 'quotes'");
-    EXPECT_EQ(FOrvOutlinerCSVExporter::EscapeCSVField("a,b"), "\"a,b\"");
-    EXPECT_EQ(FOrvOutlinerCSVExporter::EscapeCSVField("say \"hi\""), "\"say \"\"hi\"\"\"");
     EXPECT_EQ(FOrvOutlinerCSVExporter::EscapeCSVField("\""), "\"\"\"\"");
-    EXPECT_EQ(FOrvOutlinerCSVExporter::EscapeCSVField("line\nbreak"), "\"line\nbreak\"");
     EXPECT_EQ(FOrvOutlinerCSVExporter::EscapeCSVField("cr\r"), "\"cr\r\"");
 }
 

@@ -33,27 +33,46 @@ namespace
     }
 } // namespace
 
-TEST(FOrvOutlinerHostTest, TextViewDrawsStatusTreeCountsAndHiddenCategories)
+TEST(FOrvOutlinerHostTest, TreeSortsWithoutCaseGroupsNamesAcrossCaseAndPutsRootCategoriesLast)
 {
     FOrvOutlinerRig Rig;
-    Rig.AddActors(Rig.AddProductMesh("SM_Chair", "P-CHAIR"), 3);
-    Rig.AddActors(Rig.AddProductMesh("SM_Rug", "P-RUG"), 1);
+    const std::pair<const char*, int> IdAndCount[] = {{"A", 2}, {"B", 1}, {"C", 3},
+                                                      {"D", 1}, {"E", 1}, {"F", 1}};
+    for (const auto& [Id, Count] : IdAndCount)
+    {
+        Rig.AddActors(Rig.AddProductMesh(std::string("SM_") + Id, Id), Count);
+    }
     FOrvOutlinerPanelModel Panel(Rig.PanelPorts());
     Panel.Construct();
-    Rig.Api.Answer(OrvTestAnswer({{"P-CHAIR", OrvTestRecord("P-CHAIR", "Hay", "About", "Chairs", "Seating")},
-                                  {"P-RUG", OrvTestRecord("P-RUG", "Vitra", "Rug", "Rugs")}}));
-    Panel.OnToggleCategoryVisibility(*Panel.GetRootItems()[0]->AsMacroCategory()->Categories[0]);
+    Rig.Api.Answer(OrvTestAnswer({
+        {"A", OrvTestRecord("A", "zeta", "Chair", "Chairs", "Seating")},
+        {"B", OrvTestRecord("B", "Alpha", "Stool", "chairs", "seating")},
+        {"C", OrvTestRecord("C", "Flos", "Arco", "Floor Lamps", "lighting")},
+        {"D", OrvTestRecord("D", "Vitra", "Rug", "Rugs")},
+        {"E", OrvTestRecord("E", "Alpha", "Bench", "Benches", "Seating")},
+        {"F", OrvTestRecord("F", "Muuto", "Vase", "accessories")},
+    }));
+    Panel.OnToggleCategoryVisibility(*Panel.GetRootItems()[1]->AsMacroCategory()->Categories[1]);
 
-    EXPECT_EQ(FOrvOutlinerTextView::Render(Panel), "4 products in scene\n"
-                                                   "Seating x3\n"
+    // A group is named as first met.
+    EXPECT_EQ(FOrvOutlinerTextView::Render(Panel), "9 products in scene\n"
+                                                   "lighting x3\n"
+                                                   "  Floor Lamps x3\n"
+                                                   "    Flos - Arco x3\n"
+                                                   "Seating x4\n"
+                                                   "  Benches x1\n"
+                                                   "    Alpha - Bench x1\n"
                                                    "  Chairs x3 (hidden)\n"
-                                                   "    Hay - About x3\n"
+                                                   "    Alpha - Stool x1\n"
+                                                   "    zeta - Chair x2\n"
+                                                   "accessories x1\n"
+                                                   "  Muuto - Vase x1\n"
                                                    "Rugs x1\n"
                                                    "  Vitra - Rug x1\n");
 
     Rig.Ui.bLoggedIn = false;
     EXPECT_EQ(FOrvOutlinerTextView::Render(Panel),
-              "4 products in scene\nLogin Required\n"
+              "9 products in scene\nLogin Required\n"
               "Please log in via the Orv Catalog panel\nto view scene products.\n");
 }
 

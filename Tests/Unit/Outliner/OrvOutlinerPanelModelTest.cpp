@@ -6,8 +6,8 @@
 
 namespace
 {
-    /** A level of two macro categories and a root-level category, with its catalogue answer. */
-    struct FPanelFixture : ::testing::Test
+    /** Six actors of three products: two macro categories and a root-level category. */
+    struct FOrvOutlinerPanelModelTest : ::testing::Test
     {
         FOrvOutlinerRig Rig;
         std::vector<FOrvActorRef> Chairs;
@@ -50,11 +50,6 @@ namespace
         {
             return *Panel.GetRootItems().back()->AsCategory();
         }
-
-        int ScanCount() const
-        {
-            return Rig.Log.Count("OrvOutlinerScanner: Found 3 unique products, 6 total actors");
-        }
     };
 
     std::vector<std::string> Names(const FOrvOutlinerTreeItems& Items)
@@ -79,7 +74,7 @@ TEST(FOrvOutlinerPanelTextsTest, StatusCountsWithThePluralRuleAndThousandsGroupi
     EXPECT_EQ(FOrvOutlinerPanelTexts::FormatRowCount(1000), "x1,000");
 }
 
-TEST_F(FPanelFixture, StatusShowsScanningThenTheNumberOfTaggedActors)
+TEST_F(FOrvOutlinerPanelModelTest, StatusShowsScanningThenTheNumberOfTaggedActors)
 {
     FOrvOutlinerPanelModel Panel(Rig.PanelPorts());
     int Changes = 0;
@@ -98,22 +93,7 @@ TEST_F(FPanelFixture, StatusShowsScanningThenTheNumberOfTaggedActors)
     EXPECT_GE(Changes, 2);
 }
 
-TEST(FOrvOutlinerPanelModelTest, TenActorsOfOneProductReadAsTenProductsAndAnEmptyLevelAsNone)
-{
-    FOrvOutlinerRig Single;
-    Single.AddActors(Single.AddProductMesh("SM_Chair", "P-CHAIR"), 10);
-    FOrvOutlinerPanelModel Panel(Single.PanelPorts());
-    Panel.Construct();
-    Single.Api.Answer(OrvTestAnswer({}));
-    EXPECT_EQ(Panel.GetStatusText(), "10 products in scene");
-
-    FOrvOutlinerRig Empty;
-    FOrvOutlinerPanelModel EmptyPanel(Empty.PanelPorts());
-    EmptyPanel.Construct();
-    EXPECT_EQ(EmptyPanel.GetStatusText(), "No products in scene");
-}
-
-TEST_F(FPanelFixture, ExpansionIsKeptByNameAcrossTheDebouncedRescan)
+TEST_F(FOrvOutlinerPanelModelTest, ExpansionIsKeptByNameAcrossTheDebouncedRescan)
 {
     auto Panel = MakeScannedPanel();
     Panel->OnItemExpansionChanged(Macro(*Panel, 0), true);                // Lighting
@@ -132,10 +112,10 @@ TEST_F(FPanelFixture, ExpansionIsKeptByNameAcrossTheDebouncedRescan)
     EXPECT_EQ(Macro(*Panel, 1).ActorCount, 2);
 }
 
-TEST_F(FPanelFixture, BurstOfLevelChangesGivesOneRescanHalfASecondAfterTheLast)
+TEST_F(FOrvOutlinerPanelModelTest, BurstOfLevelChangesGivesOneRescanHalfASecondAfterTheLast)
 {
     auto Panel = MakeScannedPanel();
-    ASSERT_EQ(ScanCount(), 1);
+    ASSERT_EQ(Rig.Log.Count("OrvOutlinerScanner: Found 3 unique products, 6 total actors"), 1);
 
     Rig.Destroy(Chairs[0]);
     Rig.Timers.Advance(0.3);
@@ -152,7 +132,7 @@ TEST_F(FPanelFixture, BurstOfLevelChangesGivesOneRescanHalfASecondAfterTheLast)
     EXPECT_EQ(Rig.Api.Requests.size(), 1u) << "known products come from the cache";
 }
 
-TEST_F(FPanelFixture, OnlyActorsWithAStaticMeshComponentTriggerARescanWhenSpawned)
+TEST_F(FOrvOutlinerPanelModelTest, OnlyActorsWithAStaticMeshComponentTriggerARescanWhenSpawned)
 {
     auto Panel = MakeScannedPanel();
 
@@ -163,7 +143,7 @@ TEST_F(FPanelFixture, OnlyActorsWithAStaticMeshComponentTriggerARescanWhenSpawne
     EXPECT_EQ(Rig.Timers.PendingCount(), 1u);
 }
 
-TEST_F(FPanelFixture, RefreshWhileAScanRunsIsIgnored)
+TEST_F(FOrvOutlinerPanelModelTest, RefreshWhileAScanRunsIsIgnored)
 {
     FOrvOutlinerPanelModel Panel(Rig.PanelPorts());
     Panel.Construct();
@@ -177,7 +157,7 @@ TEST_F(FPanelFixture, RefreshWhileAScanRunsIsIgnored)
     EXPECT_FALSE(Panel.IsRefreshing());
 }
 
-TEST_F(FPanelFixture, SelectingPicksOnlyLiveActorsOfTheRowAndLogs)
+TEST_F(FOrvOutlinerPanelModelTest, SelectingPicksOnlyLiveActorsOfTheRowAndLogs)
 {
     auto Panel = MakeScannedPanel();
     Rig.Destroy(Chairs[2]);
@@ -200,7 +180,7 @@ TEST_F(FPanelFixture, SelectingPicksOnlyLiveActorsOfTheRowAndLogs)
     EXPECT_EQ(Rig.Editor.GetSelectionChangeNotifications(), 3);
 }
 
-TEST_F(FPanelFixture, HidingACategoryHidesItsActorsAndIsRememberedAcrossRescans)
+TEST_F(FOrvOutlinerPanelModelTest, HidingACategoryHidesItsActorsAndIsRememberedAcrossRescans)
 {
     auto Panel = MakeScannedPanel();
     const auto IsHidden = [&](FOrvActorRef Actor) { return Rig.Editor.FindActor(Actor)->bTemporarilyHidden; };
@@ -229,7 +209,7 @@ TEST_F(FPanelFixture, HidingACategoryHidesItsActorsAndIsRememberedAcrossRescans)
                                  "OrvOutlinerPanel: Hiding 2 actors in macro-category Lighting"));
 }
 
-TEST_F(FPanelFixture, ProductRowsNavigateToTheMeshAndToTheProductPage)
+TEST_F(FOrvOutlinerPanelModelTest, ProductRowsNavigateToTheMeshAndToTheProductPage)
 {
     auto Panel = MakeScannedPanel();
     const FOrvOutlinerProductItem& Chair = *Macro(*Panel, 1).Categories[0]->Products[0];
@@ -250,7 +230,7 @@ TEST_F(FPanelFixture, ProductRowsNavigateToTheMeshAndToTheProductPage)
     EXPECT_EQ(Panel->GetProductRowCount(Chair), 3);
 }
 
-TEST_F(FPanelFixture, ExportOpensTheDialogWithTheMapNameAndSavesUnderASafeDefaultName)
+TEST_F(FOrvOutlinerPanelModelTest, ExportOpensTheDialogWithTheMapNameAndSavesUnderASafeDefaultName)
 {
     Rig.Editor.SetMapName("UEDPIE_0_Showroom");
     auto Panel = MakeScannedPanel();
@@ -273,13 +253,14 @@ TEST_F(FPanelFixture, ExportOpensTheDialogWithTheMapNameAndSavesUnderASafeDefaul
         Rig.Log.Contains(EOrvLogVerbosity::Log, "OrvOutlinerPanel: CSV export completed successfully"));
 }
 
-TEST_F(FPanelFixture, ExportWithoutProductsOrWithACancelledSaveReportsNoSuccess)
+TEST_F(FOrvOutlinerPanelModelTest, ExportWithoutProductsOrWithACancelledSaveReportsNoSuccess)
 {
     FOrvOutlinerRig Empty;
     FOrvOutlinerPanelModel Panel(Empty.PanelPorts());
     bool bDialogOpened = false;
     Panel.SetOpenExportDialog([&](const std::string&, FOrvOutlinerExportCallback) { bDialogOpened = true; });
     Panel.Construct();
+    EXPECT_EQ(Panel.GetStatusText(), "No products in scene");
 
     Panel.OnExportCSVClicked();
     EXPECT_FALSE(bDialogOpened);
@@ -293,13 +274,13 @@ TEST_F(FPanelFixture, ExportWithoutProductsOrWithACancelledSaveReportsNoSuccess)
     EXPECT_EQ(Rig.Log.Count("OrvOutlinerPanel: CSV export completed successfully"), 0);
 }
 
-TEST(FOrvOutlinerPanelModelTest, DefaultProjectNameDropsThePlayInEditorPrefix)
+TEST_F(FOrvOutlinerPanelModelTest, DefaultProjectNameDropsThePlayInEditorPrefix)
 {
     const auto NameFor = [](const std::string& MapName)
     {
-        FOrvOutlinerRig Rig;
-        Rig.Editor.SetMapName(MapName);
-        return FOrvOutlinerPanelModel(Rig.PanelPorts()).GetDefaultProjectName();
+        FOrvOutlinerRig Named;
+        Named.Editor.SetMapName(MapName);
+        return FOrvOutlinerPanelModel(Named.PanelPorts()).GetDefaultProjectName();
     };
     EXPECT_EQ(NameFor("UEDPIE_0_Showroom"), "Showroom");
     EXPECT_EQ(NameFor("uedpie_12_Loft"), "Loft");
@@ -313,7 +294,7 @@ TEST(FOrvOutlinerPanelModelTest, DefaultProjectNameDropsThePlayInEditorPrefix)
     EXPECT_EQ(FOrvOutlinerPanelModel(NoWorld.PanelPorts()).GetDefaultProjectName(), "Untitled Project");
 }
 
-TEST_F(FPanelFixture, ClosingThePanelMidScanAndMidDebounceLeavesNothingBehind)
+TEST_F(FOrvOutlinerPanelModelTest, ClosingThePanelMidScanAndMidDebounceLeavesNothingBehind)
 {
     {
         FOrvOutlinerPanelModel Panel(Rig.PanelPorts());

@@ -9,7 +9,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cstdint>
 #include <map>
 #include <memory>
@@ -17,7 +16,7 @@
 #include <string>
 #include <vector>
 
-/** @brief A catalogue service that keeps every request until the test answers it. */
+/** @brief A catalogue service that keeps every request until the test answers the oldest open one. */
 class FOrvFakeCatalogApi : public IOrvCatalogApi
 {
 public:
@@ -36,22 +35,16 @@ public:
     std::vector<FOrvCookie> GetCookies() const override { return {}; }
     void SetCookie(const FOrvCookie&) override {}
 
-    std::size_t PendingCount() const
-    {
-        return static_cast<std::size_t>(std::count_if(
-            Requests.begin(), Requests.end(), [](const FRequest& Request) { return !Request.bAnswered; }));
-    }
-
-    /** Answers the oldest open request with JSON text (null answer when it is not an object). */
+    /** A successful answer; its document is null when JsonText is not an object. */
     void Answer(const std::string& JsonText)
     {
         auto Document = std::make_shared<rapidjson::Document>();
         const bool bObject = FOrvJson::ParseObject(JsonText, *Document);
         Complete(true, bObject ? Document : nullptr);
     }
-
-    /** Fails the oldest open request. */
     void Fail() { Complete(false, nullptr); }
+
+    std::vector<FRequest> Requests;
 
 private:
     void Complete(bool bSuccess, std::shared_ptr<const rapidjson::Document> Document)
@@ -61,16 +54,13 @@ private:
             if (!Request.bAnswered)
             {
                 Request.bAnswered = true;
-                FOrvApiCallback OnComplete = Request.OnComplete;
+                FOrvApiCallback OnComplete = Request.OnComplete; // the callback may add requests
                 OnComplete(bSuccess, std::move(Document));
                 return;
             }
         }
         ADD_FAILURE() << "no open catalogue request to answer";
     }
-
-public:
-    std::vector<FRequest> Requests;
 };
 
 /** @brief Timers on a clock that only the test moves. */
@@ -79,15 +69,9 @@ class FOrvFakeTimers : public IOrvTimers
 public:
     FOrvTimerHandle SetTimer(double DelaySeconds, std::function<void()> Callback) override
     {
-        if (!bHasWorld)
-        {
-            return {};
-        }
-        const std::uint64_t Id = ++LastId;
-        Pending[Id] = {Now + DelaySeconds, std::move(Callback)};
-        return {Id};
+        Pending[++LastId] = {Now + DelaySeconds, std::move(Callback)};
+        return {LastId};
     }
-
     void ClearTimer(FOrvTimerHandle& Handle) override
     {
         Pending.erase(Handle.Value);
@@ -103,8 +87,8 @@ public:
             auto Due = Pending.end();
             for (auto It = Pending.begin(); It != Pending.end(); ++It)
             {
-                if (It->second.DueAt <= Now + 1e-9 &&
-                    (Due == Pending.end() || It->second.DueAt < Due->second.DueAt))
+                if (It->second.first <= Now + 1e-9 &&
+                    (Due == Pending.end() || It->second.first < Due->second.first))
                 {
                     Due = It;
                 }
@@ -113,23 +97,15 @@ public:
             {
                 return;
             }
-            std::function<void()> Callback = std::move(Due->second.Callback);
+            std::function<void()> Callback = std::move(Due->second.second);
             Pending.erase(Due);
             Callback();
         }
     }
-
     std::size_t PendingCount() const { return Pending.size(); }
 
-    bool bHasWorld = true;
-
 private:
-    struct FTimer
-    {
-        double DueAt;
-        std::function<void()> Callback;
-    };
-    std::map<std::uint64_t, FTimer> Pending;
+    std::map<std::uint64_t, std::pair<double, std::function<void()>>> Pending; ///< id to (due time, callback)
     std::uint64_t LastId = 0;
     double Now = 0.0;
 };
@@ -139,27 +115,23 @@ class FOrvFakeFiles : public IOrvFiles
 {
 public:
     bool IsDesktopPlatformAvailable() const override { return bDesktopPlatform; }
-
     bool SaveFileDialog(const FOrvSaveDialogRequest& Request, std::vector<std::string>& OutFiles) override
     {
         ++DialogsShown;
         LastRequest = Request;
-        if (!DialogAnswer)
+        if (DialogAnswer)
         {
-            return false;
+            OutFiles = *DialogAnswer;
         }
-        OutFiles = *DialogAnswer;
-        return true;
+        return DialogAnswer.has_value();
     }
-
     bool SaveStringToFile(std::string_view Text, const std::string& FilePath) override
     {
-        if (bFailWrites)
+        if (!bFailWrites)
         {
-            return false;
+            Written[FilePath] = std::string(Text);
         }
-        Written[FilePath] = std::string(Text);
-        return true;
+        return !bFailWrites;
     }
 
     bool bDesktopPlatform = true;
@@ -194,41 +166,35 @@ struct FOrvOutlinerRig
     FOrvFakeEnvironment Environment;
     FOrvRecordingLog Log;
 
-    /** A catalogue mesh tagged with ProductId. */
     FOrvMeshRef AddProductMesh(const std::string& AssetName, const std::string& ProductId,
                                bool bValidTag = true)
     {
         return Editor.AddStaticMesh(
             {"/Game/ORVESSA/Meshes/" + AssetName, {}, FOrvProductTag{ProductId, bValidTag}});
     }
-
     /** A mesh without a product tag (walls, floors). */
     FOrvMeshRef AddPlainMesh(const std::string& AssetName)
     {
         return Editor.AddStaticMesh({"/Game/Architecture/" + AssetName, {}, std::nullopt});
     }
-
     FOrvActorRef AddActor(std::vector<FOrvMeshRef> Components)
     {
         FOrvMemoryActorDesc Desc;
         Desc.StaticMeshComponents = std::move(Components);
         return Editor.AddActor(Desc);
     }
-
     std::vector<FOrvActorRef> AddActors(FOrvMeshRef Mesh, int Count)
     {
         std::vector<FOrvActorRef> Actors;
-        for (int Index = 0; Index < Count; ++Index)
+        while (Count-- > 0)
         {
             Actors.push_back(AddActor({Mesh}));
         }
         return Actors;
     }
-
     void Destroy(FOrvActorRef Actor) { Editor.Editing().EditorDestroyActor(Actor); }
 
     FOrvOutlinerScannerPorts ScannerPorts() { return {Editor.World(), Editor.Meshes(), Api, Log}; }
-
     FOrvOutlinerPanelPorts PanelPorts()
     {
         return {Editor.World(),
