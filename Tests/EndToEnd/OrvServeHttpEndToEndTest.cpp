@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <set>
 #include <string>
+#include <utility>
 
 namespace
 {
@@ -26,7 +26,7 @@ TEST_F(FOrvServeHttpEndToEndTest, HealthAndSseAnswerExactlyAndUnknownPathsGet404
     EXPECT_EQ(Health.Status, 200);
     EXPECT_EQ(Health.Body, R"({"status":"ok","service":"orvessa-ue-mcp"})");
     EXPECT_EQ(Health.Header("Content-Type"), "application/json");
-    EXPECT_FALSE(Health.HasHeader("Access-Control-Allow-Origin"));
+    EXPECT_EQ(Health.Header("Access-Control-Allow-Origin"), "");
 
     const FOrvTestHttpReply Sse = Host.Client().Get("/sse");
     EXPECT_EQ(Sse.Status, 200);
@@ -40,15 +40,19 @@ TEST_F(FOrvServeHttpEndToEndTest, HealthAndSseAnswerExactlyAndUnknownPathsGet404
     EXPECT_EQ(Host.Client().Get("/health").Status, 200) << "the connection survives the 404s";
 }
 
+// The answers themselves are the handler's unit tests' business; here they must reach both paths.
 TEST_F(FOrvServeHttpEndToEndTest, McpAndSsePostsGiveTheSameJsonRpcAnswers)
 {
-    for (const char* Body : {R"({"jsonrpc":"2.0","id":1,"method":"initialize","params":{}})",
-                             R"({"jsonrpc":"2.0","id":"x","method":"tools/list"})", R"({"method":"nope"})"})
+    const std::pair<const char*, const char*> Cases[] = {
+        {R"({"jsonrpc":"2.0","id":1,"method":"initialize","params":{}})", "ORVESSA"},
+        {R"({"jsonrpc":"2.0","id":"x","method":"tools/list"})", "ue_placement_guide"},
+        {R"({"method":"nope"})", "-32601"}};
+    for (const auto& [Body, Fragment] : Cases)
     {
         const FOrvTestHttpReply OnMcp = Host.Client().Post("/mcp", Body);
-        const FOrvTestHttpReply OnSse = Host.Client().Post("/sse", Body);
         EXPECT_EQ(OnMcp.Status, 200) << Body;
-        EXPECT_EQ(OnMcp.Body, OnSse.Body) << Body;
+        EXPECT_NE(OnMcp.Body.find(Fragment), std::string::npos) << OnMcp.Body;
+        EXPECT_EQ(OnMcp.Body, Host.Client().Post("/sse", Body).Body) << Body;
         EXPECT_EQ(OnMcp.Header("Content-Type"), "application/json") << Body;
         EXPECT_EQ(OnMcp.Header("Access-Control-Allow-Origin"), "*") << Body;
     }
@@ -66,30 +70,4 @@ TEST_F(FOrvServeHttpEndToEndTest, BrokenBodiesGetParseErrorsWithStatus200)
         EXPECT_EQ((*Envelope)["error"]["code"].GetInt(), -32700);
         EXPECT_STREQ((*Envelope)["error"]["message"].GetString(), "Parse error: invalid JSON");
     }
-}
-
-TEST_F(FOrvServeHttpEndToEndTest, InitializeAndToolsListDescribeTheServer)
-{
-    const auto Initialize = Host.Rpc(
-        "/mcp",
-        R"({"jsonrpc":"2.0","id":1,"method":"initialize","params":{"protocolVersion":"2024-11-05"}})");
-    ASSERT_TRUE(Initialize && Initialize->IsObject());
-    const rapidjson::Value& Result = (*Initialize)["result"];
-    EXPECT_STREQ(Result["protocolVersion"].GetString(), "2025-06-18");
-    EXPECT_FALSE(Result["capabilities"]["tools"]["listChanged"].GetBool());
-    EXPECT_STREQ(Result["serverInfo"]["name"].GetString(), "ORVESSA");
-
-    const auto Listed = Host.Rpc("/mcp", R"({"jsonrpc":"2.0","id":2,"method":"tools/list"})");
-    ASSERT_TRUE(Listed && Listed->IsObject());
-    const rapidjson::Value& Tools = (*Listed)["result"]["tools"];
-    ASSERT_TRUE(Tools.IsArray());
-    std::set<std::string> Names;
-    for (const rapidjson::Value& Tool : Tools.GetArray())
-    {
-        Names.insert(Tool["name"].GetString());
-        EXPECT_STREQ(Tool["inputSchema"]["type"].GetString(), "object");
-    }
-    EXPECT_EQ(Names, (std::set<std::string>{"ue_list_scene", "ue_get_camera", "ue_list_available_assets",
-                                            "ue_capture_view", "ue_spawn_product", "ue_move_actor",
-                                            "ue_delete_actor", "ue_get_asset_bounds", "ue_placement_guide"}));
 }

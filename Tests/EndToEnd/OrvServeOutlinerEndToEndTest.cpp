@@ -2,11 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <string>
-#include <unistd.h>
 
 namespace
 {
@@ -43,39 +39,4 @@ TEST(FOrvServeOutlinerEndToEndTest, TheTreeFollowsWhatAiToolsSpawnAndDelete)
     const std::string Id = (*Spawned.Json)["id"].GetString();
     ASSERT_TRUE(Host.CallTool("ue_delete_actor", R"({"id":")" + Id + R"("})").Json);
     EXPECT_TRUE(TreeEventuallyShows(Host, "  Chairs x4", Tree)) << Tree;
-}
-
-TEST(FOrvServeOutlinerEndToEndTest, ExportWritesTheProductScheduleOfTheServedLevel)
-{
-    FOrvServedHost Host;
-    std::string Error;
-    ASSERT_TRUE(Host.Start(ORV_HOST_EXECUTABLE, {}, Error)) << Error;
-    std::string Tree;
-    ASSERT_TRUE(TreeEventuallyShows(Host, "Chairs x4", Tree)) << Tree;
-
-    const std::filesystem::path File =
-        std::filesystem::temp_directory_path() / ("orv-e2e-schedule-" + std::to_string(getpid()) + ".csv");
-    EXPECT_EQ(Host.Console("export \"" + File.string() + "\" \"Casa Demo\" 03"),
-              "Wrote " + File.string() + ".");
-    std::ifstream In(File);
-    std::stringstream Text;
-    Text << In.rdbuf();
-    std::filesystem::remove(File);
-    EXPECT_EQ(Text.str().rfind("ORVESSA - Product Schedule", 0), 0u) << Text.str();
-    EXPECT_NE(Text.str().find("Casa Demo"), std::string::npos);
-    EXPECT_NE(Text.str().find("Sedia Arco"), std::string::npos);
-}
-
-TEST(FOrvServeOutlinerEndToEndTest, AnUnusableCatalogueIsReportedBeforeServing)
-{
-    FOrvHostProcess Host;
-    std::string Error;
-    ASSERT_TRUE(
-        Host.Start(ORV_HOST_EXECUTABLE, {"serve", "--port", "0", "--api", "https://api.orvessa.com"}, Error))
-        << Error;
-    const std::optional<int> Code = Host.WaitForExit(10.0);
-    ASSERT_TRUE(Code.has_value());
-    EXPECT_NE(*Code, 0);
-    EXPECT_NE(Host.GetErrors().find("https"), std::string::npos) << Host.GetErrors();
-    EXPECT_EQ(Host.GetOutput().find("Serving MCP"), std::string::npos);
 }

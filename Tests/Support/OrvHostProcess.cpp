@@ -3,7 +3,6 @@
 #include <cerrno>
 #include <chrono>
 #include <csignal>
-#include <cstdlib>
 #include <fcntl.h>
 #include <poll.h>
 #include <spawn.h>
@@ -16,15 +15,15 @@ namespace
 {
     using FClock = std::chrono::steady_clock;
 
-    double SecondsLeft(FClock::time_point Deadline)
-    {
-        return std::chrono::duration<double>(Deadline - FClock::now()).count();
-    }
-
     FClock::time_point DeadlineIn(double Seconds)
     {
         return FClock::now() +
                std::chrono::duration_cast<FClock::duration>(std::chrono::duration<double>(Seconds));
+    }
+
+    double SecondsLeft(FClock::time_point Deadline)
+    {
+        return std::chrono::duration<double>(Deadline - FClock::now()).count();
     }
 
     void CloseFd(int& Fd)
@@ -39,34 +38,32 @@ namespace
 
 FOrvHostProcess::~FOrvHostProcess()
 {
-    CloseFd(InputFd);
+    CloseFd(Fds[0]);
     if (Pid > 0 && !ExitCode)
     {
         kill(Pid, SIGKILL);
-        int Status = 0;
-        waitpid(Pid, &Status, 0);
+        waitpid(Pid, nullptr, 0);
     }
-    CloseFd(OutputFd);
-    CloseFd(ErrorFd);
+    CloseFd(Fds[1]);
+    CloseFd(Fds[2]);
 }
 
 bool FOrvHostProcess::Start(const std::string& Executable, const std::vector<std::string>& Args,
                             std::string& Error)
 {
-    int InPipe[2];
-    int OutPipe[2];
-    int ErrPipe[2];
-    if (pipe2(InPipe, O_CLOEXEC) != 0 || pipe2(OutPipe, O_CLOEXEC) != 0 || pipe2(ErrPipe, O_CLOEXEC) != 0)
-    {
-        Error = "pipe failed";
-        return false;
-    }
+    int Pipes[3][2];
     posix_spawn_file_actions_t Actions;
     posix_spawn_file_actions_init(&Actions);
-    posix_spawn_file_actions_adddup2(&Actions, InPipe[0], STDIN_FILENO);
-    posix_spawn_file_actions_adddup2(&Actions, OutPipe[1], STDOUT_FILENO);
-    posix_spawn_file_actions_adddup2(&Actions, ErrPipe[1], STDERR_FILENO);
-
+    for (int Index = 0; Index < 3; ++Index)
+    {
+        if (pipe2(Pipes[Index], O_CLOEXEC) != 0)
+        {
+            Error = "pipe failed";
+            return false;
+        }
+        // The child reads end 0 of its input pipe and writes end 1 of the others.
+        posix_spawn_file_actions_adddup2(&Actions, Pipes[Index][Index == 0 ? 0 : 1], Index);
+    }
     std::vector<std::string> Words{Executable};
     Words.insert(Words.end(), Args.begin(), Args.end());
     std::vector<char*> Argv;
@@ -77,56 +74,43 @@ bool FOrvHostProcess::Start(const std::string& Executable, const std::vector<std
     Argv.push_back(nullptr);
     const int Result = posix_spawn(&Pid, Executable.c_str(), &Actions, nullptr, Argv.data(), environ);
     posix_spawn_file_actions_destroy(&Actions);
-    close(InPipe[0]);
-    close(OutPipe[1]);
-    close(ErrPipe[1]);
-    InputFd = InPipe[1];
-    OutputFd = OutPipe[0];
-    ErrorFd = ErrPipe[0];
+    for (int Index = 0; Index < 3; ++Index)
+    {
+        close(Pipes[Index][Index == 0 ? 0 : 1]);
+        Fds[Index] = Pipes[Index][Index == 0 ? 1 : 0];
+    }
     if (Result != 0)
     {
         Pid = -1;
         Error = "cannot start " + Executable + ": errno " + std::to_string(Result);
         return false;
     }
-    // A child that dies must not kill the test with SIGPIPE when we write to its input.
+    // A child that died must not kill the test with SIGPIPE when we write to its input.
     std::signal(SIGPIPE, SIG_IGN);
     return true;
 }
 
 bool FOrvHostProcess::Pump(double TimeoutSeconds)
 {
-    pollfd Fds[2] = {{OutputFd, POLLIN, 0}, {ErrorFd, POLLIN, 0}};
-    if (OutputFd < 0 && ErrorFd < 0)
+    pollfd Polled[2] = {{Fds[1], POLLIN, 0}, {Fds[2], POLLIN, 0}};
+    if ((Fds[1] >= 0 || Fds[2] >= 0) && poll(Polled, 2, static_cast<int>(TimeoutSeconds * 1000.0) + 1) > 0)
     {
-        return false;
-    }
-    const int Millis = TimeoutSeconds > 0 ? static_cast<int>(TimeoutSeconds * 1000.0) + 1 : 0;
-    const int Ready = poll(Fds, 2, Millis);
-    if (Ready <= 0)
-    {
-        return true;
-    }
-    char Chunk[4096];
-    int* Descriptors[2] = {&OutputFd, &ErrorFd};
-    std::string* Sinks[2] = {&Output, &Errors};
-    for (int Index = 0; Index < 2; ++Index)
-    {
-        if (*Descriptors[Index] < 0 || Fds[Index].revents == 0)
+        std::string* Sinks[2] = {&Output, &Errors};
+        for (int Index = 0; Index < 2; ++Index)
         {
-            continue;
-        }
-        const ssize_t Read = read(*Descriptors[Index], Chunk, sizeof(Chunk));
-        if (Read > 0)
-        {
-            Sinks[Index]->append(Chunk, static_cast<std::size_t>(Read));
-        }
-        else if (Read == 0 || errno != EINTR)
-        {
-            CloseFd(*Descriptors[Index]);
+            char Chunk[4096];
+            const ssize_t Read = Polled[Index].revents ? read(Fds[Index + 1], Chunk, sizeof(Chunk)) : -2;
+            if (Read > 0)
+            {
+                Sinks[Index]->append(Chunk, static_cast<std::size_t>(Read));
+            }
+            else if (Read == 0 || (Read == -1 && errno != EINTR))
+            {
+                CloseFd(Fds[Index + 1]);
+            }
         }
     }
-    return OutputFd >= 0 || ErrorFd >= 0;
+    return Fds[1] >= 0 || Fds[2] >= 0;
 }
 
 std::optional<std::string>
@@ -146,49 +130,30 @@ FOrvHostProcess::WaitForOutputLine(const std::function<bool(const std::string&)>
                 return Line;
             }
         }
-        const double Left = SecondsLeft(Deadline);
-        if (Left <= 0 || !Pump(Left))
+        if (SecondsLeft(Deadline) <= 0 || !Pump(SecondsLeft(Deadline)))
         {
             return std::nullopt;
         }
     }
 }
 
-bool FOrvHostProcess::WaitForErrorText(std::string_view Text, double TimeoutSeconds)
+bool FOrvHostProcess::Write(std::string_view Text)
 {
-    const auto Deadline = DeadlineIn(TimeoutSeconds);
-    while (Errors.find(Text) == std::string::npos)
+    while (!Text.empty())
     {
-        const double Left = SecondsLeft(Deadline);
-        if (Left <= 0 || !Pump(Left))
+        const ssize_t Written = write(Fds[0], Text.data(), Text.size());
+        if (Written <= 0 && errno != EINTR)
         {
-            return Errors.find(Text) != std::string::npos;
+            return false;
         }
+        Text.remove_prefix(Written > 0 ? static_cast<std::size_t>(Written) : 0);
     }
     return true;
 }
 
-bool FOrvHostProcess::Write(std::string_view Text)
-{
-    while (!Text.empty() && InputFd >= 0)
-    {
-        const ssize_t Written = write(InputFd, Text.data(), Text.size());
-        if (Written < 0 && errno == EINTR)
-        {
-            continue;
-        }
-        if (Written <= 0)
-        {
-            return false;
-        }
-        Text.remove_prefix(static_cast<std::size_t>(Written));
-    }
-    return Text.empty();
-}
-
 void FOrvHostProcess::CloseInput()
 {
-    CloseFd(InputFd);
+    CloseFd(Fds[0]);
 }
 
 void FOrvHostProcess::Signal(int SignalNumber)
@@ -202,48 +167,23 @@ void FOrvHostProcess::Signal(int SignalNumber)
 std::optional<int> FOrvHostProcess::WaitForExit(double TimeoutSeconds)
 {
     const auto Deadline = DeadlineIn(TimeoutSeconds);
-    while (!ExitCode && Pid > 0)
+    while (!ExitCode && Pid > 0 && SecondsLeft(Deadline) > 0)
     {
         int Status = 0;
-        const pid_t Done = waitpid(Pid, &Status, WNOHANG);
-        if (Done == Pid)
+        if (waitpid(Pid, &Status, WNOHANG) == Pid)
         {
             ExitCode = WIFEXITED(Status) ? WEXITSTATUS(Status) : 128 + WTERMSIG(Status);
-            break;
-        }
-        const double Left = SecondsLeft(Deadline);
-        if (Left <= 0)
-        {
-            return std::nullopt;
         }
         // Reading keeps the child from blocking on a full pipe; short waits notice the exit soon.
-        if (!Pump(Left < 0.02 ? Left : 0.02))
+        else if (!Pump(0.02))
         {
             usleep(1000);
         }
     }
-    // Whatever was still in the pipes belongs to the output too; an ended child closes them soon.
+    // What is still in the pipes belongs to the output too; an ended child's pipes close soon.
     const auto DrainDeadline = DeadlineIn(1.0);
     while (ExitCode && SecondsLeft(DrainDeadline) > 0 && Pump(0.05))
     {
     }
     return ExitCode;
-}
-
-unsigned OrvParseServingPort(std::string_view Line)
-{
-    constexpr std::string_view Prefix = "Serving MCP on http://127.0.0.1:";
-    if (Line.substr(0, Prefix.size()) != Prefix)
-    {
-        return 0;
-    }
-    Line.remove_prefix(Prefix.size());
-    unsigned Port = 0;
-    std::size_t Index = 0;
-    while (Index < Line.size() && Line[Index] >= '0' && Line[Index] <= '9' && Port <= 65535)
-    {
-        Port = Port * 10 + static_cast<unsigned>(Line[Index] - '0');
-        ++Index;
-    }
-    return Line.substr(Index) == "/mcp" && Port <= 65535 ? Port : 0;
 }

@@ -1,20 +1,24 @@
 #include "Tests/Support/OrvServedHost.h"
 
+#include <charconv>
 #include <csignal>
-#include <utility>
-
-#include <boost/asio/io_context.hpp>
 
 namespace
 {
-    constexpr double StartTimeoutSeconds = 20.0;
-    constexpr double ConsoleTimeoutSeconds = 10.0;
+    /** The port of the "Serving MCP on http://127.0.0.1:PORT/mcp" line; 0 for any other line. */
+    std::uint16_t ParseServingPort(std::string_view Line)
+    {
+        constexpr std::string_view Prefix = "Serving MCP on http://127.0.0.1:";
+        std::uint16_t Port = 0;
+        if (Line.starts_with(Prefix))
+        {
+            const char* End = Line.data() + Line.size();
+            const auto [Rest, Error] = std::from_chars(Line.data() + Prefix.size(), End, Port);
+            return Error == std::errc() && std::string_view(Rest, End) == "/mcp" ? Port : 0;
+        }
+        return 0;
+    }
 } // namespace
-
-struct FOrvServedHost::FContext
-{
-    boost::asio::io_context Io;
-};
 
 std::string FOrvToolCallReply::ErrorCode() const
 {
@@ -24,8 +28,6 @@ std::string FOrvToolCallReply::ErrorCode() const
     }
     return {};
 }
-
-FOrvServedHost::FOrvServedHost() : Context(std::make_unique<FContext>()) {}
 
 FOrvServedHost::~FOrvServedHost()
 {
@@ -43,15 +45,15 @@ bool FOrvServedHost::Start(const std::string& Executable, const std::vector<std:
     {
         return false;
     }
-    const auto Line = Child.WaitForOutputLine(
-        [](const std::string& Text) { return OrvParseServingPort(Text) != 0; }, StartTimeoutSeconds);
+    const auto Line =
+        Child.WaitForOutputLine([](const std::string& Text) { return ParseServingPort(Text) != 0; }, 20.0);
     if (!Line)
     {
         Error = "no URL line; output: " + Child.GetOutput() + "\nerrors: " + Child.GetErrors();
         return false;
     }
-    Port = static_cast<std::uint16_t>(OrvParseServingPort(*Line));
-    HttpClient = std::make_unique<FOrvTestHttpClient>(Context->Io, Port);
+    Port = ParseServingPort(*Line);
+    HttpClient = std::make_unique<FOrvTestHttpClient>(Io, Port);
     return true;
 }
 
@@ -70,36 +72,32 @@ std::shared_ptr<rapidjson::Document> FOrvServedHost::Rpc(std::string_view Path, 
 
 FOrvToolCallReply FOrvServedHost::CallTool(std::string_view Name, std::string_view ArgumentsJson)
 {
-    const std::string Body = "{\"jsonrpc\":\"2.0\",\"id\":" + std::to_string(NextId++) +
-                             ",\"method\":\"tools/call\",\"params\":{\"name\":\"" + std::string(Name) +
-                             "\",\"arguments\":" + std::string(ArgumentsJson) + "}}";
+    const std::string Body = R"({"jsonrpc":"2.0","id":1,"method":"tools/call","params":{"name":")" +
+                             std::string(Name) + R"(","arguments":)" + std::string(ArgumentsJson) + "}}";
     FOrvToolCallReply Reply;
-    Reply.Envelope = Rpc("/mcp", Body, &Reply.Http);
-    if (!Reply.Envelope || !Reply.Envelope->IsObject() || !Reply.Envelope->HasMember("result"))
+    const auto Envelope = Rpc("/mcp", Body, &Reply.Http);
+    if (!Envelope || !Envelope->IsObject() || !Envelope->HasMember("result"))
     {
         return Reply;
     }
-    const rapidjson::Value& Result = (*Reply.Envelope)["result"];
-    if (!Result.HasMember("content") || !Result["content"].IsArray() || Result["content"].Empty())
+    const rapidjson::Value& Content = (*Envelope)["result"]["content"];
+    if (!Content.IsArray() || Content.Empty())
     {
         return Reply;
     }
-    const rapidjson::Value& Block = Result["content"][0];
+    const rapidjson::Value& Block = Content[0];
     Reply.Type = Block["type"].GetString();
-    if (Reply.Type == "text")
-    {
-        Reply.Text = Block["text"].GetString();
-        auto Parsed = std::make_shared<rapidjson::Document>();
-        Parsed->Parse(Reply.Text.c_str());
-        if (!Parsed->HasParseError())
-        {
-            Reply.Json = Parsed;
-        }
-    }
-    else
+    if (Reply.Type == "image")
     {
         Reply.Text = Block["data"].GetString();
         Reply.MimeType = Block["mimeType"].GetString();
+        return Reply;
+    }
+    Reply.Text = Block["text"].GetString();
+    auto Parsed = std::make_shared<rapidjson::Document>();
+    if (!Parsed->Parse(Reply.Text.c_str()).HasParseError())
+    {
+        Reply.Json = Parsed;
     }
     return Reply;
 }
@@ -108,25 +106,20 @@ std::string FOrvServedHost::Console(std::string_view Command)
 {
     // The console answers an unknown command with one known line: it marks the end of the answer.
     constexpr std::string_view EndLine = "Unknown command \"#orv-end\"; type help for the list.";
-    if (!Child.Write(std::string(Command) + "\n#orv-end\n"))
-    {
-        return {};
-    }
     std::string Answer;
-    // Without the end line the host stopped (quit) or timed out: what came is the answer.
-    Child.WaitForOutputLine(
-        [&](const std::string& Text)
-        {
-            if (Text == EndLine)
+    if (Child.Write(std::string(Command) + "\n#orv-end\n"))
+    {
+        // Without the end line the host stopped (quit) or timed out: what came is the answer.
+        Child.WaitForOutputLine(
+            [&](const std::string& Text)
             {
-                return true;
-            }
-            if (!Text.empty() && Text.rfind("Console ready", 0) != 0)
-            {
-                Answer += (Answer.empty() ? "" : "\n") + Text;
-            }
-            return false;
-        },
-        ConsoleTimeoutSeconds);
+                if (Text != EndLine && !Text.empty() && !Text.starts_with("Console ready"))
+                {
+                    Answer += (Answer.empty() ? "" : "\n") + Text;
+                }
+                return Text == EndLine;
+            },
+            10.0);
+    }
     return Answer;
 }

@@ -2,19 +2,12 @@
 
 #include "Host/Runtime/OrvBeast.h"
 
-#include <unordered_set>
-
 using namespace OrvBeast;
-
-namespace
-{
-    class FOrvTestCatalogSession;
-}
 
 struct FOrvTestCatalogService::FState : std::enable_shared_from_this<FOrvTestCatalogService::FState>
 {
-    FState(asio::io_context& InContext, FAnswerFunction InAnswer)
-        : Acceptor(InContext), Answer(std::move(InAnswer))
+    FState(asio::io_context& Context, FAnswerFunction InAnswer)
+        : Acceptor(Context), Answer(std::move(InAnswer))
     {
     }
 
@@ -23,24 +16,23 @@ struct FOrvTestCatalogService::FState : std::enable_shared_from_this<FOrvTestCat
     tcp::acceptor Acceptor;
     FAnswerFunction Answer;
     std::vector<FOrvTestCatalogRequest> Requests;
-    std::vector<std::weak_ptr<FOrvTestCatalogSession>> Sessions;
     bool bStopped = false;
 };
 
 namespace
 {
     /** @brief One connection: one request, one (possibly delayed) answer, then close. */
-    class FOrvTestCatalogSession : public std::enable_shared_from_this<FOrvTestCatalogSession>
+    struct FOrvTestCatalogSession : std::enable_shared_from_this<FOrvTestCatalogSession>
     {
-    public:
-        FOrvTestCatalogSession(tcp::socket&& Socket, std::shared_ptr<FOrvTestCatalogService::FState> InState)
-            : Stream(std::move(Socket)), Timer(Stream.get_executor()), State(std::move(InState))
+        FOrvTestCatalogSession(tcp::socket&& InSocket,
+                               std::shared_ptr<FOrvTestCatalogService::FState> InState)
+            : Socket(std::move(InSocket)), Timer(Socket.get_executor()), State(std::move(InState))
         {
         }
 
         void Start()
         {
-            http::async_read(Stream, Buffer, Request,
+            http::async_read(Socket, Buffer, Request,
                              [Self = shared_from_this()](const FErrorCode& Error, std::size_t)
                              {
                                  if (!Error && !Self->State->bStopped)
@@ -50,28 +42,14 @@ namespace
                              });
         }
 
-        void Stop()
-        {
-            Timer.cancel();
-            Stream.close();
-        }
-
-    private:
         void OnRequest()
         {
-            FOrvTestCatalogRequest Seen;
-            Seen.Method = std::string(Request.method_string());
-            Seen.Target = std::string(Request.target());
-            Seen.ContentType = std::string(Request[http::field::content_type]);
-            Seen.Cookie = std::string(Request[http::field::cookie]);
-            Seen.Body = Request.body();
-            State->Requests.push_back(Seen);
-            const FOrvTestCatalogAnswer Answer =
-                State->Answer ? State->Answer(Seen) : FOrvTestCatalogAnswer{};
-
-            Response.version(11);
+            State->Requests.push_back({std::string(Request.method_string()), std::string(Request.target()),
+                                       std::string(Request[http::field::content_type]),
+                                       std::string(Request[http::field::cookie]), Request.body()});
+            const FOrvTestCatalogAnswer Answer = State->Answer(State->Requests.back());
             Response.result(static_cast<unsigned>(Answer.Status));
-            Response.set(http::field::content_type, Answer.ContentType);
+            Response.set(http::field::content_type, "application/json");
             for (const auto& [Name, Value] : Answer.Headers)
             {
                 Response.insert(Name, Value);
@@ -83,20 +61,19 @@ namespace
             Timer.async_wait(
                 [Self = shared_from_this()](const FErrorCode& Error)
                 {
-                    if (Error || Self->State->bStopped)
+                    if (!Error && !Self->State->bStopped)
                     {
-                        return;
+                        http::async_write(Self->Socket, Self->Response,
+                                          [Self](const FErrorCode&, std::size_t)
+                                          {
+                                              FErrorCode Ignored;
+                                              Self->Socket.shutdown(tcp::socket::shutdown_send, Ignored);
+                                          });
                     }
-                    http::async_write(Self->Stream, Self->Response,
-                                      [Self](const FErrorCode&, std::size_t)
-                                      {
-                                          FErrorCode Ignored;
-                                          Self->Stream.socket().shutdown(tcp::socket::shutdown_send, Ignored);
-                                      });
                 });
         }
 
-        beast::tcp_stream Stream;
+        tcp::socket Socket;
         asio::steady_timer Timer;
         beast::flat_buffer Buffer;
         http::request<http::string_body> Request;
@@ -110,14 +87,11 @@ void FOrvTestCatalogService::FState::Accept()
     Acceptor.async_accept(
         [Self = shared_from_this()](const FErrorCode& Error, tcp::socket Socket)
         {
-            if (Error || Self->bStopped)
+            if (!Error && !Self->bStopped)
             {
-                return;
+                std::make_shared<FOrvTestCatalogSession>(std::move(Socket), Self)->Start();
+                Self->Accept();
             }
-            auto Session = std::make_shared<FOrvTestCatalogSession>(std::move(Socket), Self);
-            Self->Sessions.push_back(Session);
-            Session->Start();
-            Self->Accept();
         });
 }
 
@@ -136,24 +110,12 @@ FOrvTestCatalogService::~FOrvTestCatalogService()
     State->bStopped = true;
     FErrorCode Ignored;
     State->Acceptor.close(Ignored);
-    for (const auto& Weak : State->Sessions)
-    {
-        if (auto Session = Weak.lock())
-        {
-            Session->Stop();
-        }
-    }
-}
-
-std::uint16_t FOrvTestCatalogService::GetPort() const
-{
-    FErrorCode Ignored;
-    return State->Acceptor.local_endpoint(Ignored).port();
 }
 
 std::string FOrvTestCatalogService::GetBaseUrl() const
 {
-    return "http://127.0.0.1:" + std::to_string(GetPort());
+    FErrorCode Ignored;
+    return "http://127.0.0.1:" + std::to_string(State->Acceptor.local_endpoint(Ignored).port());
 }
 
 const std::vector<FOrvTestCatalogRequest>& FOrvTestCatalogService::GetRequests() const

@@ -18,23 +18,22 @@ struct FOrvTestCatalogRequest
     std::string Method;
     std::string Target;
     std::string ContentType;
-    std::string Cookie; ///< the Cookie header, empty when none
+    std::string Cookie; ///< empty when none
     std::string Body;
 };
 
-/** @brief What the test catalogue service answers. */
+/** @brief What the test catalogue service answers, as application/json. */
 struct FOrvTestCatalogAnswer
 {
+    std::string Body;
     int Status = 200;
-    std::string ContentType = "application/json";
-    std::string Body = R"({"status":true,"products":{}})";
     std::vector<std::pair<std::string, std::string>> Headers; ///< e.g. Set-Cookie, in order
-    double DelaySeconds = 0.0;                                ///< wait this long before answering
+    double DelaySeconds = 0.0;
 };
 
 /**
- * @brief A small catalogue service on 127.0.0.1 (OS-chosen port) for client tests. It runs on the
- * given io_context, so it answers while the test pumps the host's event loop; it records every request.
+ * @brief A catalogue service on 127.0.0.1 (OS-chosen port) that runs on the given io_context, so it
+ * answers while the test pumps the host's event loop. It records every request.
  */
 class FOrvTestCatalogService
 {
@@ -43,14 +42,9 @@ public:
 
     FOrvTestCatalogService(boost::asio::io_context& Context, FAnswerFunction Answer);
     ~FOrvTestCatalogService();
-    FOrvTestCatalogService(const FOrvTestCatalogService&) = delete;
-    FOrvTestCatalogService& operator=(const FOrvTestCatalogService&) = delete;
-
-    std::uint16_t GetPort() const;
 
     /** "http://127.0.0.1:PORT" */
     std::string GetBaseUrl() const;
-
     const std::vector<FOrvTestCatalogRequest>& GetRequests() const;
 
     struct FState;

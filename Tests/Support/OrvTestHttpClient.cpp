@@ -1,149 +1,12 @@
 #include "Tests/Support/OrvTestHttpClient.h"
 
 #include "Core/Common/OrvStrings.h"
-#include "Host/Runtime/OrvBeast.h"
 
-#include <boost/asio/connect.hpp>
 #include <boost/asio/executor_work_guard.hpp>
+#include <boost/asio/read.hpp>
 #include <boost/asio/write.hpp>
 
-#include <optional>
-
 using namespace OrvBeast;
-
-struct FOrvTestHttpClient::FState
-{
-    FState(asio::io_context& InContext, std::uint16_t InPort)
-        : Context(InContext), Port(InPort), Socket(InContext)
-    {
-    }
-
-    /** Pumps the context until bDone or the time is up; false on timeout. */
-    bool Pump(const bool& bDone, double TimeoutSeconds)
-    {
-        if (Context.stopped())
-        {
-            Context.restart();
-        }
-        auto Guard = asio::make_work_guard(Context);
-        const auto Deadline = std::chrono::steady_clock::now() + Seconds(TimeoutSeconds);
-        while (!bDone)
-        {
-            const auto Now = std::chrono::steady_clock::now();
-            if (Now >= Deadline)
-            {
-                return false;
-            }
-            Context.run_one_for(Deadline - Now);
-            if (Context.stopped())
-            {
-                Context.restart();
-            }
-        }
-        return true;
-    }
-
-    bool Connect(double TimeoutSeconds)
-    {
-        if (Socket.is_open())
-        {
-            return true;
-        }
-        bool bDone = false;
-        FErrorCode Result;
-        Socket.async_connect(tcp::endpoint(asio::ip::address_v4::loopback(), Port),
-                             [&](const FErrorCode& Error)
-                             {
-                                 Result = Error;
-                                 bDone = true;
-                             });
-        if (!Pump(bDone, TimeoutSeconds) || Result)
-        {
-            Abandon(bDone);
-            return false;
-        }
-        Buffer.clear();
-        return true;
-    }
-
-    bool Write(std::string_view Bytes, double TimeoutSeconds, std::string& Error)
-    {
-        bool bDone = false;
-        FErrorCode Result;
-        asio::async_write(Socket, asio::buffer(Bytes.data(), Bytes.size()),
-                          [&](const FErrorCode& WriteError, std::size_t)
-                          {
-                              Result = WriteError;
-                              bDone = true;
-                          });
-        if (!Pump(bDone, TimeoutSeconds) || Result)
-        {
-            Error = bDone ? "write failed: " + Result.message() : "write timed out";
-            Abandon(bDone);
-            return false;
-        }
-        return true;
-    }
-
-    FOrvTestHttpReply Read(double TimeoutSeconds)
-    {
-        FOrvTestHttpReply Reply;
-        if (!Socket.is_open())
-        {
-            Reply.Error = "not connected";
-            return Reply;
-        }
-        http::response_parser<http::string_body> Parser;
-        Parser.body_limit(256 * 1024 * 1024);
-        bool bDone = false;
-        FErrorCode Result;
-        http::async_read(Socket, Buffer, Parser,
-                         [&](const FErrorCode& ReadError, std::size_t)
-                         {
-                             Result = ReadError;
-                             bDone = true;
-                         });
-        if (!Pump(bDone, TimeoutSeconds) || Result)
-        {
-            Reply.Error = bDone ? "read failed: " + Result.message() : "read timed out";
-            Abandon(bDone);
-            return Reply;
-        }
-        const auto& Message = Parser.get();
-        Reply.bReceived = true;
-        Reply.Status = static_cast<int>(Message.result_int());
-        for (const auto& Field : Message)
-        {
-            Reply.Headers.emplace_back(std::string(Field.name_string()), std::string(Field.value()));
-        }
-        Reply.Body = Message.body();
-        if (!Message.keep_alive())
-        {
-            Close();
-        }
-        return Reply;
-    }
-
-    /** Closes after a failure; an operation still pending is cancelled and waited for. */
-    void Abandon(bool& bDone)
-    {
-        Close();
-        Pump(bDone, 5.0);
-    }
-
-    void Close()
-    {
-        FErrorCode Ignored;
-        Socket.shutdown(tcp::socket::shutdown_both, Ignored);
-        Socket.close(Ignored);
-        Buffer.clear();
-    }
-
-    asio::io_context& Context;
-    std::uint16_t Port;
-    tcp::socket Socket;
-    beast::flat_buffer Buffer;
-};
 
 std::string FOrvTestHttpReply::Header(std::string_view Name) const
 {
@@ -157,126 +20,119 @@ std::string FOrvTestHttpReply::Header(std::string_view Name) const
     return {};
 }
 
-bool FOrvTestHttpReply::HasHeader(std::string_view Name) const
+template <class FStart> FErrorCode FOrvTestHttpClient::Run(FStart Start, double TimeoutSeconds)
 {
-    for (const auto& [Key, Value] : Headers)
-    {
-        if (FOrvStrings::EqualsIgnoreCase(Key, Name))
+    bool bDone = false;
+    FErrorCode Result;
+    Start(
+        [&](const FErrorCode& Error, auto&&...)
         {
-            return true;
+            Result = Error;
+            bDone = true;
+        });
+    const auto Pump = [&](double Seconds)
+    {
+        auto Guard = asio::make_work_guard(Context);
+        const auto Deadline = std::chrono::steady_clock::now() + OrvBeast::Seconds(Seconds);
+        while (!bDone && std::chrono::steady_clock::now() < Deadline)
+        {
+            Context.restart();
+            Context.run_one_until(Deadline);
         }
+        return bDone;
+    };
+    if (!Pump(TimeoutSeconds))
+    {
+        Disconnect();
+        Pump(5.0);
+        return asio::error::timed_out;
     }
-    return false;
+    if (Result)
+    {
+        Disconnect();
+    }
+    return Result;
 }
 
-FOrvTestHttpClient::FOrvTestHttpClient(boost::asio::io_context& Context, std::uint16_t Port)
-    : State(std::make_unique<FState>(Context, Port))
+bool FOrvTestHttpClient::Connect(double TimeoutSeconds)
 {
-}
-
-FOrvTestHttpClient::~FOrvTestHttpClient()
-{
-    State->Close();
-}
-
-FOrvTestHttpReply FOrvTestHttpClient::Get(std::string_view Target, double TimeoutSeconds)
-{
-    return Send("GET", Target, {}, {}, TimeoutSeconds);
-}
-
-FOrvTestHttpReply FOrvTestHttpClient::Post(std::string_view Target, std::string_view Body,
-                                           double TimeoutSeconds)
-{
-    return Send("POST", Target, Body, {{"Content-Type", "application/json"}}, TimeoutSeconds);
+    if (Socket.is_open())
+    {
+        return true;
+    }
+    Buffer.clear();
+    const tcp::endpoint Endpoint(asio::ip::address_v4::loopback(), Port);
+    return !Run([&](auto Done) { Socket.async_connect(Endpoint, Done); }, TimeoutSeconds);
 }
 
 FOrvTestHttpReply FOrvTestHttpClient::Send(std::string_view Method, std::string_view Target,
-                                           std::string_view Body,
-                                           const std::vector<std::pair<std::string, std::string>>& Headers,
-                                           double TimeoutSeconds)
+                                           std::string_view Body, double TimeoutSeconds)
 {
-    std::string Request = std::string(Method) + " " + std::string(Target) +
-                          " HTTP/1.1\r\nHost: 127.0.0.1:" + std::to_string(State->Port) + "\r\n";
-    for (const auto& [Name, Value] : Headers)
+    std::string Request =
+        std::string(Method) + " " + std::string(Target) + " HTTP/1.1\r\nHost: 127.0.0.1\r\n";
+    if (Method == "POST")
     {
-        Request += Name + ": " + Value + "\r\n";
+        Request +=
+            "Content-Type: application/json\r\nContent-Length: " + std::to_string(Body.size()) + "\r\n";
     }
-    if (!Body.empty() || Method == "POST")
-    {
-        Request += "Content-Length: " + std::to_string(Body.size()) + "\r\n";
-    }
-    Request += "\r\n";
-    Request += Body;
-    return SendRaw(Request, TimeoutSeconds);
+    return SendRaw(Request + "\r\n" + std::string(Body), TimeoutSeconds);
 }
 
 FOrvTestHttpReply FOrvTestHttpClient::SendRaw(std::string_view Bytes, double TimeoutSeconds)
 {
     FOrvTestHttpReply Reply;
-    if (!State->Connect(TimeoutSeconds))
-    {
-        Reply.Error = "connect failed";
-        return Reply;
-    }
-    if (!State->Write(Bytes, TimeoutSeconds, Reply.Error))
+    Reply.Error = "connect failed";
+    if (!Connect(TimeoutSeconds))
     {
         return Reply;
     }
-    return State->Read(TimeoutSeconds);
+    const auto Data = asio::buffer(Bytes.data(), Bytes.size());
+    if (const FErrorCode Error =
+            Run([&](auto Done) { asio::async_write(Socket, Data, Done); }, TimeoutSeconds))
+    {
+        Reply.Error = "write: " + Error.message();
+        return Reply;
+    }
+    return ReadReply(TimeoutSeconds);
 }
 
 FOrvTestHttpReply FOrvTestHttpClient::ReadReply(double TimeoutSeconds)
 {
-    return State->Read(TimeoutSeconds);
-}
-
-bool FOrvTestHttpClient::Connect(double TimeoutSeconds)
-{
-    return State->Connect(TimeoutSeconds);
+    FOrvTestHttpReply Reply;
+    http::response_parser<http::string_body> Parser;
+    Parser.body_limit(256 * 1024 * 1024);
+    if (const FErrorCode Error =
+            Run([&](auto Done) { http::async_read(Socket, Buffer, Parser, Done); }, TimeoutSeconds))
+    {
+        Reply.Error = "read: " + Error.message();
+        return Reply;
+    }
+    const auto& Message = Parser.get();
+    Reply.bReceived = true;
+    Reply.Status = static_cast<int>(Message.result_int());
+    for (const auto& Field : Message)
+    {
+        Reply.Headers.emplace_back(std::string(Field.name_string()), std::string(Field.value()));
+    }
+    Reply.Body = Message.body();
+    if (!Message.keep_alive())
+    {
+        Disconnect();
+    }
+    return Reply;
 }
 
 bool FOrvTestHttpClient::WaitForServerClose(double TimeoutSeconds)
 {
-    if (!State->Socket.is_open())
-    {
-        return true;
-    }
-    bool bDone = false;
-    FErrorCode Result;
-    std::array<char, 4096> Scratch{};
-    // Whatever the server still sends (an answer) is read away; only the end of the stream counts.
-    std::function<void()> ReadMore;
-    ReadMore = [&]()
-    {
-        State->Socket.async_read_some(asio::buffer(Scratch),
-                                      [&](const FErrorCode& Error, std::size_t)
-                                      {
-                                          if (Error)
-                                          {
-                                              Result = Error;
-                                              bDone = true;
-                                              return;
-                                          }
-                                          ReadMore();
-                                      });
-    };
-    ReadMore();
-    const bool bFinished = State->Pump(bDone, TimeoutSeconds);
-    if (!bFinished)
-    {
-        State->Abandon(bDone);
-        return false;
-    }
-    State->Close();
-    return true;
+    std::string Dropped;
+    // Reads until the stream ends: any error (end of stream, reset) means closed, a timeout does not.
+    return Run([&](auto Done) { asio::async_read(Socket, asio::dynamic_buffer(Dropped), Done); },
+               TimeoutSeconds) != asio::error::timed_out;
 }
 
 void FOrvTestHttpClient::Disconnect()
 {
-    State->Close();
-}
-
-bool FOrvTestHttpClient::IsConnected() const
-{
-    return State->Socket.is_open();
+    FErrorCode Ignored;
+    Socket.shutdown(tcp::socket::shutdown_both, Ignored);
+    Socket.close(Ignored);
 }

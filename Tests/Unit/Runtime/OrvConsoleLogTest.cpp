@@ -9,50 +9,35 @@
 
 namespace
 {
-    std::string ReadAll(std::FILE* File)
+    /** What a console log writes for these lines. */
+    std::string Written(bool bVerbose, const auto& WriteLines)
     {
-        std::rewind(File);
-        std::string Text;
-        char Chunk[256];
-        std::size_t Read = 0;
-        while ((Read = std::fread(Chunk, 1, sizeof(Chunk), File)) > 0)
+        std::FILE* File = std::tmpfile();
         {
-            Text.append(Chunk, Read);
+            FOrvConsoleLog Log(bVerbose, File);
+            WriteLines(Log);
         }
+        std::rewind(File);
+        std::string Text(4096, '\0');
+        Text.resize(std::fread(Text.data(), 1, Text.size(), File));
+        std::fclose(File);
         return Text;
     }
 } // namespace
 
-TEST(FOrvConsoleLogTest, LinesLookLikeTheEngineOutput)
+TEST(FOrvConsoleLogTest, LinesLookLikeTheEngineOutputAndVerboseOnesOnlyWhenAskedFor)
 {
-    std::FILE* File = std::tmpfile();
-    ASSERT_NE(File, nullptr);
-    FOrvConsoleLog Log(false, File);
-    OrvLogf(Log, EOrvLogCategory::LogOrvMcp, EOrvLogVerbosity::Warning,
-            "Orv MCP: failed to acquire HTTP router on port %u", 30011u);
-    Log.Log(EOrvLogCategory::LogOrvMcp, EOrvLogVerbosity::Log, "Orv MCP: server stopped");
-    Log.Log(EOrvLogCategory::LogTemp, EOrvLogVerbosity::Display, "shown");
-    EXPECT_EQ(ReadAll(File), "LogOrvMcp: Warning: Orv MCP: failed to acquire HTTP router on port 30011\n"
-                             "LogOrvMcp: Orv MCP: server stopped\n"
-                             "LogTemp: Display: shown\n");
-    std::fclose(File);
-}
-
-TEST(FOrvConsoleLogTest, VerboseLinesOnlyWhenAskedFor)
-{
-    std::FILE* Quiet = std::tmpfile();
-    std::FILE* Chatty = std::tmpfile();
-    ASSERT_NE(Quiet, nullptr);
-    ASSERT_NE(Chatty, nullptr);
-    FOrvConsoleLog QuietLog(false, Quiet);
-    FOrvConsoleLog ChattyLog(true, Chatty);
-    for (IOrvLog* Log : {static_cast<IOrvLog*>(&QuietLog), static_cast<IOrvLog*>(&ChattyLog)})
+    const auto Lines = [](FOrvConsoleLog& Log)
     {
-        Log->Log(EOrvLogCategory::LogTemp, EOrvLogVerbosity::Verbose,
-                 "OrvOutlinerScanner: Cached product P1");
-    }
-    EXPECT_EQ(ReadAll(Quiet), "");
-    EXPECT_EQ(ReadAll(Chatty), "LogTemp: Verbose: OrvOutlinerScanner: Cached product P1\n");
-    std::fclose(Quiet);
-    std::fclose(Chatty);
+        OrvLogf(Log, EOrvLogCategory::LogOrvMcp, EOrvLogVerbosity::Warning,
+                "Orv MCP: failed to acquire HTTP router on port %u", 30011u);
+        Log.Log(EOrvLogCategory::LogOrvMcp, EOrvLogVerbosity::Log, "Orv MCP: server stopped");
+        Log.Log(EOrvLogCategory::LogTemp, EOrvLogVerbosity::Verbose, "OrvOutlinerScanner: Cached product P1");
+        Log.Log(EOrvLogCategory::LogTemp, EOrvLogVerbosity::Display, "shown");
+    };
+    const std::string Quiet = "LogOrvMcp: Warning: Orv MCP: failed to acquire HTTP router on port 30011\n"
+                              "LogOrvMcp: Orv MCP: server stopped\n";
+    EXPECT_EQ(Written(false, Lines), Quiet + "LogTemp: Display: shown\n");
+    EXPECT_EQ(Written(true, Lines),
+              Quiet + "LogTemp: Verbose: OrvOutlinerScanner: Cached product P1\nLogTemp: Display: shown\n");
 }

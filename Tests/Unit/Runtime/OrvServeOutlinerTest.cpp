@@ -10,6 +10,8 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
+#include <sstream>
 
 namespace
 {
@@ -89,7 +91,11 @@ TEST(FOrvServeOutlinerTest, ExportWritesTheNamedFileAndReplacesItWhenNamedAgain)
     std::filesystem::remove(File);
     const std::string Wrote = "Wrote " + File.string() + ".\n";
     EXPECT_EQ(Rig.Console.Execute("export \"" + File.string() + "\" Villa 02"), Wrote);
-    EXPECT_TRUE(std::filesystem::exists(File));
+    std::stringstream Text;
+    Text << std::ifstream(File).rdbuf();
+    EXPECT_EQ(Text.str().rfind("ORVESSA - Product Schedule", 0), 0u) << Text.str();
+    EXPECT_NE(Text.str().find("Villa"), std::string::npos);
+    EXPECT_NE(Text.str().find("Sedia Arco"), std::string::npos);
     EXPECT_EQ(Rig.Console.Execute("export \"" + File.string() + "\""), Wrote);
     EXPECT_EQ(Rig.Console.Execute("export a b c d"), "Usage: export [FILE [PROJECT [REV]]]\n");
     EXPECT_EQ(Rig.Console.Execute("export /nonexistent-folder-orv/x.csv").rfind("Not written: ", 0), 0u);
