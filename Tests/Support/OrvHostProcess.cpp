@@ -4,6 +4,8 @@
 #include <chrono>
 #include <csignal>
 #include <fcntl.h>
+#include <fstream>
+#include <iterator>
 #include <poll.h>
 #include <spawn.h>
 #include <sys/wait.h>
@@ -45,40 +47,37 @@ FOrvHostProcess::~FOrvHostProcess()
         waitpid(Pid, nullptr, 0);
     }
     CloseFd(Fds[1]);
-    CloseFd(Fds[2]);
+    unlink(ErrorsPath.c_str());
 }
 
 bool FOrvHostProcess::Start(const std::string& Executable, const std::vector<std::string>& Args,
                             std::string& Error)
 {
-    int Pipes[3][2];
+    static int Started = 0;
+    ErrorsPath = "/tmp/orv-host-errors-" + std::to_string(getpid()) + "-" + std::to_string(++Started);
+    int In[2], Out[2];
+    if (pipe2(In, O_CLOEXEC) != 0 || pipe2(Out, O_CLOEXEC) != 0)
+    {
+        Error = "pipe failed";
+        return false;
+    }
     posix_spawn_file_actions_t Actions;
     posix_spawn_file_actions_init(&Actions);
-    for (int Index = 0; Index < 3; ++Index)
+    posix_spawn_file_actions_adddup2(&Actions, In[0], 0);
+    posix_spawn_file_actions_adddup2(&Actions, Out[1], 1);
+    posix_spawn_file_actions_addopen(&Actions, 2, ErrorsPath.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
+    std::vector<char*> Argv{const_cast<char*>(Executable.c_str())};
+    for (const std::string& Arg : Args)
     {
-        if (pipe2(Pipes[Index], O_CLOEXEC) != 0)
-        {
-            Error = "pipe failed";
-            return false;
-        }
-        // The child reads end 0 of its input pipe and writes end 1 of the others.
-        posix_spawn_file_actions_adddup2(&Actions, Pipes[Index][Index == 0 ? 0 : 1], Index);
-    }
-    std::vector<std::string> Words{Executable};
-    Words.insert(Words.end(), Args.begin(), Args.end());
-    std::vector<char*> Argv;
-    for (std::string& Word : Words)
-    {
-        Argv.push_back(Word.data());
+        Argv.push_back(const_cast<char*>(Arg.c_str()));
     }
     Argv.push_back(nullptr);
     const int Result = posix_spawn(&Pid, Executable.c_str(), &Actions, nullptr, Argv.data(), environ);
     posix_spawn_file_actions_destroy(&Actions);
-    for (int Index = 0; Index < 3; ++Index)
-    {
-        close(Pipes[Index][Index == 0 ? 0 : 1]);
-        Fds[Index] = Pipes[Index][Index == 0 ? 1 : 0];
-    }
+    close(In[0]);
+    close(Out[1]);
+    Fds[0] = In[1];
+    Fds[1] = Out[0];
     if (Result != 0)
     {
         Pid = -1;
@@ -92,25 +91,27 @@ bool FOrvHostProcess::Start(const std::string& Executable, const std::vector<std
 
 bool FOrvHostProcess::Pump(double TimeoutSeconds)
 {
-    pollfd Polled[2] = {{Fds[1], POLLIN, 0}, {Fds[2], POLLIN, 0}};
-    if ((Fds[1] >= 0 || Fds[2] >= 0) && poll(Polled, 2, static_cast<int>(TimeoutSeconds * 1000.0) + 1) > 0)
+    pollfd Polled{Fds[1], POLLIN, 0};
+    if (Fds[1] >= 0 && poll(&Polled, 1, static_cast<int>(TimeoutSeconds * 1000.0) + 1) > 0)
     {
-        std::string* Sinks[2] = {&Output, &Errors};
-        for (int Index = 0; Index < 2; ++Index)
+        char Chunk[4096];
+        const ssize_t Read = read(Fds[1], Chunk, sizeof(Chunk));
+        if (Read > 0)
         {
-            char Chunk[4096];
-            const ssize_t Read = Polled[Index].revents ? read(Fds[Index + 1], Chunk, sizeof(Chunk)) : -2;
-            if (Read > 0)
-            {
-                Sinks[Index]->append(Chunk, static_cast<std::size_t>(Read));
-            }
-            else if (Read == 0 || (Read == -1 && errno != EINTR))
-            {
-                CloseFd(Fds[Index + 1]);
-            }
+            Output.append(Chunk, static_cast<std::size_t>(Read));
+        }
+        else if (Read == 0 || errno != EINTR)
+        {
+            CloseFd(Fds[1]);
         }
     }
-    return Fds[1] >= 0 || Fds[2] >= 0;
+    return Fds[1] >= 0;
+}
+
+std::string FOrvHostProcess::GetErrors() const
+{
+    std::ifstream Stream(ErrorsPath, std::ios::binary);
+    return {std::istreambuf_iterator<char>(Stream), {}};
 }
 
 std::optional<std::string>
@@ -180,7 +181,7 @@ std::optional<int> FOrvHostProcess::WaitForExit(double TimeoutSeconds)
             usleep(1000);
         }
     }
-    // What is still in the pipes belongs to the output too; an ended child's pipes close soon.
+    // What is still in the pipe belongs to the output too; an ended child's pipe closes soon.
     const auto DrainDeadline = DeadlineIn(1.0);
     while (ExitCode && SecondsLeft(DrainDeadline) > 0 && Pump(0.05))
     {

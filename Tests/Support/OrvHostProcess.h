@@ -8,8 +8,8 @@
 #include <vector>
 
 /**
- * @brief A child process (orv-host) with its standard input, output and error on pipes. Every wait is
- * bounded; the destructor kills and reaps a child that is still running.
+ * @brief A child process (orv-host) with its standard input and output on pipes and its standard error in
+ * an unlinked temporary file. Every wait is bounded; the destructor kills and reaps a running child.
  */
 class FOrvHostProcess
 {
@@ -34,16 +34,16 @@ public:
     std::optional<int> WaitForExit(double TimeoutSeconds);
 
     const std::string& GetOutput() const { return Output; }
-    const std::string& GetErrors() const { return Errors; }
+    std::string GetErrors() const;
 
 private:
-    /** Reads whatever the child writes within the time; false when both pipes are closed. */
+    /** Reads whatever the child writes within the time; false when its output is closed. */
     bool Pump(double TimeoutSeconds);
 
     pid_t Pid = -1;
-    int Fds[3] = {-1, -1, -1}; ///< its input, output and error
+    int Fds[2] = {-1, -1}; ///< its input and output
+    std::string ErrorsPath;
     std::string Output;
-    std::string Errors;
     std::size_t OutputScanned = 0; ///< bytes of Output already offered to WaitForOutputLine
     std::optional<int> ExitCode;
 };

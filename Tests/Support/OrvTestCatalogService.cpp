@@ -4,6 +4,23 @@
 
 using namespace OrvBeast;
 
+namespace
+{
+    /** @brief One connection: one request, one (possibly delayed) answer, then close. */
+    struct FOrvTestCatalogSession
+    {
+        explicit FOrvTestCatalogSession(tcp::socket&& InSocket)
+            : Socket(std::move(InSocket)), Timer(Socket.get_executor())
+        {
+        }
+        tcp::socket Socket;
+        asio::steady_timer Timer;
+        beast::flat_buffer Buffer;
+        http::request<http::string_body> Request;
+        http::response<http::string_body> Response;
+    };
+} // namespace
+
 struct FOrvTestCatalogService::FState : std::enable_shared_from_this<FOrvTestCatalogService::FState>
 {
     FState(asio::io_context& Context, FAnswerFunction InAnswer)
@@ -11,7 +28,60 @@ struct FOrvTestCatalogService::FState : std::enable_shared_from_this<FOrvTestCat
     {
     }
 
-    void Accept();
+    void Accept()
+    {
+        Acceptor.async_accept(
+            [Self = shared_from_this()](const FErrorCode& Error, tcp::socket Socket)
+            {
+                if (Error || Self->bStopped)
+                {
+                    return;
+                }
+                auto Session = std::make_shared<FOrvTestCatalogSession>(std::move(Socket));
+                http::async_read(Session->Socket, Session->Buffer, Session->Request,
+                                 [Self, Session](const FErrorCode& ReadError, std::size_t)
+                                 {
+                                     if (!ReadError && !Self->bStopped)
+                                     {
+                                         Self->Respond(Session);
+                                     }
+                                 });
+                Self->Accept();
+            });
+    }
+
+    void Respond(const std::shared_ptr<FOrvTestCatalogSession>& Session)
+    {
+        const auto& Request = Session->Request;
+        Requests.push_back({std::string(Request.method_string()), std::string(Request.target()),
+                            std::string(Request[http::field::content_type]),
+                            std::string(Request[http::field::cookie]), Request.body()});
+        const FOrvTestCatalogAnswer Reply = Answer(Requests.back());
+        auto& Response = Session->Response;
+        Response.result(static_cast<unsigned>(Reply.Status));
+        Response.set(http::field::content_type, "application/json");
+        for (const auto& [Name, Value] : Reply.Headers)
+        {
+            Response.insert(Name, Value);
+        }
+        Response.body() = Reply.Body;
+        Response.keep_alive(false);
+        Response.prepare_payload();
+        Session->Timer.expires_after(Seconds(Reply.DelaySeconds));
+        Session->Timer.async_wait(
+            [Self = shared_from_this(), Session](const FErrorCode& Error)
+            {
+                if (!Error && !Self->bStopped)
+                {
+                    http::async_write(Session->Socket, Session->Response,
+                                      [Session](const FErrorCode&, std::size_t)
+                                      {
+                                          FErrorCode Ignored;
+                                          Session->Socket.shutdown(tcp::socket::shutdown_send, Ignored);
+                                      });
+                }
+            });
+    }
 
     tcp::acceptor Acceptor;
     FAnswerFunction Answer;
@@ -19,89 +89,10 @@ struct FOrvTestCatalogService::FState : std::enable_shared_from_this<FOrvTestCat
     bool bStopped = false;
 };
 
-namespace
-{
-    /** @brief One connection: one request, one (possibly delayed) answer, then close. */
-    struct FOrvTestCatalogSession : std::enable_shared_from_this<FOrvTestCatalogSession>
-    {
-        FOrvTestCatalogSession(tcp::socket&& InSocket,
-                               std::shared_ptr<FOrvTestCatalogService::FState> InState)
-            : Socket(std::move(InSocket)), Timer(Socket.get_executor()), State(std::move(InState))
-        {
-        }
-
-        void Start()
-        {
-            http::async_read(Socket, Buffer, Request,
-                             [Self = shared_from_this()](const FErrorCode& Error, std::size_t)
-                             {
-                                 if (!Error && !Self->State->bStopped)
-                                 {
-                                     Self->OnRequest();
-                                 }
-                             });
-        }
-
-        void OnRequest()
-        {
-            State->Requests.push_back({std::string(Request.method_string()), std::string(Request.target()),
-                                       std::string(Request[http::field::content_type]),
-                                       std::string(Request[http::field::cookie]), Request.body()});
-            const FOrvTestCatalogAnswer Answer = State->Answer(State->Requests.back());
-            Response.result(static_cast<unsigned>(Answer.Status));
-            Response.set(http::field::content_type, "application/json");
-            for (const auto& [Name, Value] : Answer.Headers)
-            {
-                Response.insert(Name, Value);
-            }
-            Response.body() = Answer.Body;
-            Response.keep_alive(false);
-            Response.prepare_payload();
-            Timer.expires_after(Seconds(Answer.DelaySeconds));
-            Timer.async_wait(
-                [Self = shared_from_this()](const FErrorCode& Error)
-                {
-                    if (!Error && !Self->State->bStopped)
-                    {
-                        http::async_write(Self->Socket, Self->Response,
-                                          [Self](const FErrorCode&, std::size_t)
-                                          {
-                                              FErrorCode Ignored;
-                                              Self->Socket.shutdown(tcp::socket::shutdown_send, Ignored);
-                                          });
-                    }
-                });
-        }
-
-        tcp::socket Socket;
-        asio::steady_timer Timer;
-        beast::flat_buffer Buffer;
-        http::request<http::string_body> Request;
-        http::response<http::string_body> Response;
-        std::shared_ptr<FOrvTestCatalogService::FState> State;
-    };
-} // namespace
-
-void FOrvTestCatalogService::FState::Accept()
-{
-    Acceptor.async_accept(
-        [Self = shared_from_this()](const FErrorCode& Error, tcp::socket Socket)
-        {
-            if (!Error && !Self->bStopped)
-            {
-                std::make_shared<FOrvTestCatalogSession>(std::move(Socket), Self)->Start();
-                Self->Accept();
-            }
-        });
-}
-
 FOrvTestCatalogService::FOrvTestCatalogService(boost::asio::io_context& Context, FAnswerFunction Answer)
     : State(std::make_shared<FState>(Context, std::move(Answer)))
 {
-    const tcp::endpoint Endpoint(asio::ip::address_v4::loopback(), 0);
-    State->Acceptor.open(Endpoint.protocol());
-    State->Acceptor.bind(Endpoint);
-    State->Acceptor.listen();
+    State->Acceptor = tcp::acceptor(Context, {asio::ip::address_v4::loopback(), 0});
     State->Accept();
 }
 

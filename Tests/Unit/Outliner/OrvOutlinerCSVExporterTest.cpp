@@ -7,9 +7,6 @@
 #include <fstream>
 #include <sstream>
 
-// Product records below name only the fields they need; the rest keep their defaults.
-#pragma GCC diagnostic ignored "-Wmissing-field-initializers"
-
 namespace
 {
     // Golden files are compared byte for byte; ORV_UPDATE_GOLDEN=1 rewrites them (then review the diff).
@@ -42,39 +39,25 @@ TEST(FOrvOutlinerCSVExporterTest, ScheduleWithTrickyValuesMatchesTheGoldenFile)
     const FOrvMeshRef Mesh = Rig.AddProductMesh("SM_Any", "ANY");
     FOrvSceneProductMap Products;
 
-    Products.Add(MakeProduct({.ProductID = "P-LC2",
-                              .Name = "LC2 \"Grand Confort\"",
-                              .Brand = "Cassina, Milano",
-                              .Category = "Armchairs",
-                              .Collection = "LC",
-                              .Designer = "Le Corbusier",
-                              .Dimensions = "76 x 70 x 67 cm",
-                              .Weight = "32 kg",
-                              .Description = "Tubular steel frame.\nLeather cushions.",
-                              .Website = "https://cassina.com/lc2?a=1,b=2"},
+    Products.Add(MakeProduct({"P-LC2", "LC2 \"Grand Confort\"", "Cassina, Milano", "Armchairs", "", "LC",
+                              "Le Corbusier", "76 x 70 x 67 cm", "32 kg",
+                              "Tubular steel frame.\nLeather cushions.", "https://cassina.com/lc2?a=1,b=2"},
                              Rig.AddActors(Mesh, 2)));
     // All of its actors were deleted after the scan: still a row, with 0.
     const std::vector<FOrvActorRef> Gone = Rig.AddActors(Mesh, 2);
-    Products.Add(
-        MakeProduct({.ProductID = "P-GHOST", .Name = "Ghost", .Brand = "alias", .Category = ""}, Gone));
+    Products.Add(MakeProduct(OrvTestInfo("P-GHOST", "alias", "Ghost", ""), Gone));
     for (const FOrvActorRef Actor : Gone)
     {
         Rig.Destroy(Actor);
     }
-    Products.Add(MakeProduct({.ProductID = "P-BENCH",
-                              .Name = "Bench",
-                              .Brand = "Alias",
-                              .Category = "Benches",
-                              .Description = "Windows line end\r\nin the text"},
-                             Rig.AddActors(Mesh, 1)));
+    FOrvProductInfo Bench = OrvTestInfo("P-BENCH", "Alias", "Bench", "Benches");
+    Bench.Description = "Windows line end\r\nin the text";
+    Products.Add(MakeProduct(Bench, Rig.AddActors(Mesh, 1)));
     std::vector<FOrvActorRef> Sacco = Rig.AddActors(Mesh, 3);
     Rig.Destroy(Sacco[0]);
-    Products.Add(MakeProduct({.ProductID = "P-SACCO",
-                              .Name = "Sacco",
-                              .Brand = "Zanotta",
-                              .Category = "Poufs",
-                              .Weight = "\"light\""},
-                             Sacco));
+    FOrvProductInfo SaccoInfo = OrvTestInfo("P-SACCO", "Zanotta", "Sacco", "Poufs");
+    SaccoInfo.Weight = "\"light\"";
+    Products.Add(MakeProduct(SaccoInfo, Sacco));
     Products.Add(MakeProduct(FOrvProductInfo::MakePlaceholder("P-UNKNOWN"), Rig.AddActors(Mesh, 1)));
 
     const std::string CSV = FOrvOutlinerCSVExporter::GenerateCSV(Products, "Villa \"Rosa\", Como", "02",

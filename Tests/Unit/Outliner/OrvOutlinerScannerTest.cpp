@@ -2,9 +2,6 @@
 
 #include <gtest/gtest.h>
 
-// Product records below name only the fields they need; the rest keep their defaults.
-#pragma GCC diagnostic ignored "-Wmissing-field-initializers"
-
 namespace
 {
     /** A rig and its scanner; Run keeps what the completion hands over. */
@@ -129,7 +126,7 @@ TEST_F(FOrvOutlinerScannerTest, AnswerFieldsAreReadAsTheEngineReadsThem)
         {"id":42,"name":true,"brand":"Kvadrat","category":"Textiles"},
         "not a record"]})");
 
-    FOrvProductInfo Arco{.ProductID = "P1", .Name = "Arco", .Brand = "Flos", .Category = "Lamps"};
+    FOrvProductInfo Arco = OrvTestInfo("P1", "Flos", "Arco", "Lamps");
     Arco.Collection = "Classics";
     Arco.Weight = "12.5";
     Arco.Website = "https://flos.com/arco";

@@ -69,12 +69,12 @@ class FOrvFakeTimers : public IOrvTimers
 public:
     FOrvTimerHandle SetTimer(double DelaySeconds, std::function<void()> Callback) override
     {
-        Pending[++LastId] = {Now + DelaySeconds, std::move(Callback)};
+        Pending[{Now + DelaySeconds, ++LastId}] = std::move(Callback);
         return {LastId};
     }
     void ClearTimer(FOrvTimerHandle& Handle) override
     {
-        Pending.erase(Handle.Value);
+        std::erase_if(Pending, [&](const auto& Entry) { return Entry.first.second == Handle.Value; });
         Handle = {};
     }
 
@@ -82,30 +82,17 @@ public:
     void Advance(double Seconds)
     {
         Now += Seconds;
-        for (;;)
+        while (!Pending.empty() && Pending.begin()->first.first <= Now + 1e-9)
         {
-            auto Due = Pending.end();
-            for (auto It = Pending.begin(); It != Pending.end(); ++It)
-            {
-                if (It->second.first <= Now + 1e-9 &&
-                    (Due == Pending.end() || It->second.first < Due->second.first))
-                {
-                    Due = It;
-                }
-            }
-            if (Due == Pending.end())
-            {
-                return;
-            }
-            std::function<void()> Callback = std::move(Due->second.second);
-            Pending.erase(Due);
+            std::function<void()> Callback = std::move(Pending.begin()->second);
+            Pending.erase(Pending.begin());
             Callback();
         }
     }
     std::size_t PendingCount() const { return Pending.size(); }
 
 private:
-    std::map<std::uint64_t, std::pair<double, std::function<void()>>> Pending; ///< id to (due time, callback)
+    std::map<std::pair<double, std::uint64_t>, std::function<void()>> Pending; ///< (due time, id) to callback
     std::uint64_t LastId = 0;
     double Now = 0.0;
 };
@@ -210,6 +197,13 @@ struct FOrvOutlinerRig
                 Log};
     }
 };
+
+/** @brief A product's info with the fields every view shows; the others empty. */
+inline FOrvProductInfo OrvTestInfo(const std::string& Id, const std::string& Brand, const std::string& Name,
+                                   const std::string& Category)
+{
+    return {Id, Name, Brand, Category, "", "", "", "", "", "", ""};
+}
 
 /** @brief One catalogue record as the batch answer carries it. */
 inline std::string OrvTestRecord(const std::string& Id, const std::string& Brand, const std::string& Name,
