@@ -3,17 +3,22 @@
 #include <algorithm>
 #include <utility>
 
+std::vector<FOrvFakeHttpRouter::FRoute>::iterator FOrvFakeHttpRouter::Find(std::string_view Path,
+                                                                           EOrvHttpVerb Verb)
+{
+    return std::ranges::find_if(BoundRoutes, [&](const FRoute& Route)
+                                { return Route.Path == Path && Route.Verb == Verb; });
+}
+
 FOrvHttpRouteHandle FOrvFakeHttpRouter::BindRoute(std::string_view Path, EOrvHttpVerb Verb,
                                                   FOrvHttpRequestHandler Handler)
 {
-    if (std::ranges::any_of(BoundRoutes,
-                            [&](const FRoute& Route) { return Route.Path == Path && Route.Verb == Verb; }))
+    if (Find(Path, Verb) != BoundRoutes.end())
     {
         return {};
     }
-    const FOrvHttpRouteHandle Handle{NextHandle++};
-    BoundRoutes.push_back({std::string(Path), Verb, std::move(Handler), Handle});
-    return Handle;
+    BoundRoutes.push_back({std::string(Path), Verb, std::move(Handler), {NextHandle++}});
+    return BoundRoutes.back().Handle;
 }
 
 void FOrvFakeHttpRouter::UnbindRoute(FOrvHttpRouteHandle Handle)
@@ -25,22 +30,13 @@ void FOrvFakeHttpRouter::UnbindRoute(FOrvHttpRouteHandle Handle)
 FOrvFakeHttpExchange FOrvFakeHttpRouter::Send(EOrvHttpVerb Verb, std::string_view Path, std::string Body)
 {
     FOrvFakeHttpExchange Exchange;
-    for (const FRoute& Route : BoundRoutes)
+    if (const auto Route = Find(Path, Verb); Route != BoundRoutes.end())
     {
-        if (Route.Path != Path || Route.Verb != Verb)
-        {
-            continue;
-        }
-        FOrvHttpRequest Request;
-        Request.Verb = Verb;
-        Request.Path = std::string(Path);
-        Request.Body = std::move(Body);
         // The handler's copy of the completion is all that keeps a deferred answer deliverable.
-        FOrvHttpResultCallback OnComplete =
-            [Responses = Exchange.Responses](std::unique_ptr<FOrvHttpResponse> Response)
-        { Responses->push_back(Response ? std::move(*Response) : FOrvHttpResponse{}); };
-        Exchange.bHandled = Route.Handler(Request, OnComplete);
-        break;
+        Exchange.bHandled =
+            Route->Handler({Verb, std::string(Path), std::move(Body)},
+                           [Responses = Exchange.Responses](std::unique_ptr<FOrvHttpResponse> Response)
+                           { Responses->push_back(Response ? std::move(*Response) : FOrvHttpResponse{}); });
     }
     return Exchange;
 }

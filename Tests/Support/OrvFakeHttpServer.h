@@ -42,6 +42,8 @@ public:
     int UnbindCount = 0;
 
 private:
+    std::vector<FRoute>::iterator Find(std::string_view Path, EOrvHttpVerb Verb);
+
     std::vector<FRoute> BoundRoutes;
     std::uint64_t NextHandle = 1;
 };

@@ -7,15 +7,9 @@
 #include <string_view>
 #include <vector>
 
-/**
- * @brief Sends one request body to the handler, then runs the game thread until it is idle, so tools
- * that complete later have answered. Returns every response text received (one is the contract).
- */
+/** @brief Sends one request body, then runs the game thread until idle; returns every response text. */
 std::vector<std::string> OrvSendMcpRequest(FOrvMcpHandler& Handler, FOrvManualGameThread& GameThread,
                                            std::string_view Body);
 
-/**
- * @brief The JSON text rewritten without whitespace, members kept in their order: compares content and
- * key order while ignoring layout. Text that is not JSON comes back as "<not JSON: ...>".
- */
+/** @brief JSON text condensed, members in their order; text that is not JSON as "<not JSON: ...>". */
 std::string OrvCondensedJson(std::string_view JsonText);

@@ -31,7 +31,7 @@ namespace
     std::string Repeat(const std::string& Piece, int Count)
     {
         std::string Text;
-        for (int Index = 0; Index < Count; ++Index)
+        while (Count-- > 0)
         {
             Text += Piece;
         }
@@ -85,24 +85,16 @@ TEST(FOrvMcpFormatterTest, NumbersAndBooleansReadAsTheEngineReadsThem)
     EXPECT_EQ(Card(R"({"Name":"First","NAME":"Last"})"), "### Last");
 }
 
-TEST(FOrvMcpFormatterTest, DimensionsShowOnlyPositiveNumbers)
+TEST(FOrvMcpFormatterTest, DimensionsShowPositiveNumbersMaterialsStringsAndDescriptionsTrimmed)
 {
     EXPECT_EQ(Card(R"({"name":"T","dimensions":{"width":80,"depth":0,"height":75}})"),
               "### T\n\n- **Dimensions** \xE2\x80\x94 80 \xC3\x97 H75 cm");
     EXPECT_EQ(Card(R"({"name":"T","dimensions":{"width":0,"depth":0,"height":0}})"), "### T");
     EXPECT_EQ(Card(R"({"name":"T","dimensions":{"width":-5,"depth":"45","height":12000000}})"),
               "### T\n\n- **Dimensions** \xE2\x80\x94 H1.2e+07 cm");
-}
-
-TEST(FOrvMcpFormatterTest, MaterialsComeFromAStringOrTheStringsOfAnArray)
-{
     EXPECT_EQ(Card(R"({"name":"T","materials":"Walnut veneer"})"),
               "### T\n\n- **Materials** \xE2\x80\x94 Walnut veneer");
     EXPECT_EQ(Card(R"({"name":"T","materials":[1,{"name":"Oak"},null]})"), "### T");
-}
-
-TEST(FOrvMcpFormatterTest, DescriptionIsTrimmedAndQuoted)
-{
     EXPECT_EQ(Card(R"({"name":"T","description":"   "})"), "### T\n\n> ");
     // No-break and ideographic spaces are whitespace to the engine as well.
     EXPECT_EQ(Card("{\"name\":\"T\",\"description\":\"\xC2\xA0Soft.\xE3\x80\x80\"}"), "### T\n\n> Soft.");
@@ -162,7 +154,7 @@ TEST(FOrvMcpFormatterTest, ListShowsFullCardsThenACompactTail)
     EXPECT_EQ(List("[]", 3), "_No products found._");
 }
 
-TEST(FOrvMcpFormatterTest, NullEntriesCountInTheTailButShowNothing)
+TEST(FOrvMcpFormatterTest, NullEntriesCountInTheTailAndNoFullCardsStartsWithTheRule)
 {
     // Without a title the compact label is the brand part alone.
     EXPECT_EQ(List(R"([null,{"name":"A"},{"name":"B"},null,{"brand":[{"name":"Ek"}]}])", 2),
@@ -170,10 +162,6 @@ TEST(FOrvMcpFormatterTest, NullEntriesCountInTheTailButShowNothing)
     const rapidjson::Value* OnlyNull[] = {nullptr};
     EXPECT_EQ(FOrvMcpFormatter::ProductListCards(OnlyNull, 3), "");
     EXPECT_EQ(FOrvMcpFormatter::ProductListCards(OnlyNull, 0), "\n\n---\n\n_1 more result (compact):_\n");
-}
-
-TEST(FOrvMcpFormatterTest, NoFullCardsStartsWithTheRule)
-{
     const std::string Expected = "\n\n---\n\n_2 more results (compact):_\n- A\n- B";
     EXPECT_EQ(List(R"([{"name":"A"},{"name":"B"}])", 0), Expected);
     EXPECT_EQ(List(R"([{"name":"A"},{"name":"B"}])", -4), Expected);

@@ -28,19 +28,6 @@ namespace
             }
         }
 
-        std::vector<FOrvMeshRef> PlacedMeshes()
-        {
-            std::vector<FOrvMeshRef> Result;
-            for (const FOrvActorRef Actor : Editor.World().GetActors())
-            {
-                for (const FOrvMeshRef Mesh : Editor.World().GetStaticMeshComponents(Actor))
-                {
-                    Result.push_back(Mesh);
-                }
-            }
-            return Result;
-        }
-
         FOrvMemoryEditor Editor;
         rapidjson::Document Catalog;
         std::map<std::string, const rapidjson::Value*> Records;
@@ -52,14 +39,17 @@ TEST_F(FOrvDemoSceneTest, RoomHoldsRepeatedCatalogueProductsOfEveryMountingKind)
     std::map<std::string, int> Placed; // per product id; no demo actor has two tagged meshes
     std::set<std::string> Hints;
     std::set<std::string> PlacedPaths;
-    for (const FOrvMeshRef Mesh : PlacedMeshes())
+    for (const FOrvActorRef Actor : Editor.World().GetActors())
     {
-        PlacedPaths.insert(Editor.Meshes().GetMeshPathName(Mesh));
-        if (const std::optional<FOrvProductTag> Tag = Editor.Meshes().GetProductTag(Mesh);
-            Tag && Tag->bIsValid)
+        for (const FOrvMeshRef Mesh : Editor.World().GetStaticMeshComponents(Actor))
         {
-            ++Placed[Tag->ProductID];
-            Hints.insert(FOrvMcpToolHelpers::GetMountingHint(Editor.Meshes().GetBoundingBox(Mesh)));
+            PlacedPaths.insert(Editor.Meshes().GetMeshPathName(Mesh));
+            if (const std::optional<FOrvProductTag> Tag = Editor.Meshes().GetProductTag(Mesh);
+                Tag && Tag->bIsValid)
+            {
+                ++Placed[Tag->ProductID];
+                Hints.insert(FOrvMcpToolHelpers::GetMountingHint(Editor.Meshes().GetBoundingBox(Mesh)));
+            }
         }
     }
     EXPECT_GE(Placed.size(), 10u);

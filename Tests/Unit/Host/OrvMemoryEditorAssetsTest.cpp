@@ -51,7 +51,8 @@ TEST_F(FOrvMemoryEditorAssetsTest, RegistryListsWholeFoldersInRegistrationOrder)
               "/Script/Engine.StaticMesh /Game/ORVESSA/Forma/Meshes SM_Chair");
 }
 
-TEST_F(FOrvMemoryEditorAssetsTest, LoadStaticMeshTakesObjectPathsLikeStaticLoadObject)
+TEST_F(FOrvMemoryEditorAssetsTest,
+       LoadStaticMeshTakesObjectPathsLikeStaticLoadObjectAndAPackageIsRegisteredOnce)
 {
     IOrvAssetRegistry& Assets = Editor.Assets();
     EXPECT_EQ(Assets.LoadStaticMesh("/Game/ORVESSA/Forma/Meshes/SM_Chair.SM_Chair"), Chair);
@@ -67,10 +68,6 @@ TEST_F(FOrvMemoryEditorAssetsTest, LoadStaticMeshTakesObjectPathsLikeStaticLoadO
     const std::vector<FOrvAssetData> Listed = Assets.GetAssetsByPath("/Game/ORVESSA/Forma", true);
     EXPECT_EQ(Assets.LoadStaticMeshAsset(Listed[0]), Chair);
     EXPECT_FALSE(Assets.LoadStaticMeshAsset(Listed[1]));
-}
-
-TEST_F(FOrvMemoryEditorAssetsTest, APackageCanOnlyBeRegisteredOnce)
-{
     EXPECT_FALSE(Editor.AddStaticMesh({"/game/orvessa/forma/meshes/sm_chair", {}, {}}));
     EXPECT_FALSE(Editor.AddStaticMesh({"", {}, {}}));
     EXPECT_EQ(Editor.GetRegisteredAssets().size(), 4u);

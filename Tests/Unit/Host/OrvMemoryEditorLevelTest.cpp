@@ -11,43 +11,46 @@ namespace
         FOrvScopedTransaction Transaction(Editor.Transactions(), "Spawn");
         return Editor.Editing().SpawnStaticMeshActor({}, {});
     }
+
+    FOrvActorRef Add(FOrvMemoryEditor& Editor, const std::string& Name, const std::string& Label = "")
+    {
+        return Editor.AddActor({Name, Label, "StaticMeshActor", {}, {}, true});
+    }
 } // namespace
 
-TEST(FOrvMemoryEditorLevelTest, SpawnedActorsAreNumberedAboveEveryNumberUsedAndNeverReused)
+TEST(FOrvMemoryEditorLevelTest, NamesAreNumberedAboveEveryNumberUsedAndNeverReusedIgnoringCase)
 {
     FOrvMemoryEditor Editor;
-    Editor.AddActor({"StaticMeshActor_7", "", "StaticMeshActor", {}, {}, true});
-    Editor.AddActor({"Chair_40", "", "StaticMeshActor", {}, {}, true});
-
+    Add(Editor, "StaticMeshActor_7");
+    Add(Editor, "Chair_40");
     const FOrvActorRef First = SpawnAndKeep(Editor);
     EXPECT_EQ(Editor.World().GetActorName(First), "StaticMeshActor_8");
     EXPECT_EQ(Editor.World().GetActorLabel(First), "StaticMeshActor_8") << "the label starts as the name";
-
     Editor.Editing().EditorDestroyActor(First);
     EXPECT_EQ(Editor.World().GetActorName(SpawnAndKeep(Editor)), "StaticMeshActor_9");
     Editor.Undo();
     EXPECT_EQ(Editor.World().GetActorName(SpawnAndKeep(Editor)), "StaticMeshActor_10");
-}
 
-TEST(FOrvMemoryEditorLevelTest, AddActorRefusesANameAlreadyUsedInTheSessionIgnoringCase)
-{
-    FOrvMemoryEditor Editor;
-    const FOrvActorRef Sofa = Editor.AddActor({"Sofa", "", "StaticMeshActor", {}, {}, true});
-    EXPECT_FALSE(Editor.AddActor({"SOFA", "", "StaticMeshActor", {}, {}, true}));
+    const FOrvActorRef Sofa = Add(Editor, "Sofa");
+    EXPECT_FALSE(Add(Editor, "SOFA"));
     Editor.Editing().EditorDestroyActor(Sofa);
-    EXPECT_FALSE(Editor.AddActor({"sofa", "", "StaticMeshActor", {}, {}, true}))
-        << "undo could bring the destroyed one back";
+    EXPECT_FALSE(Add(Editor, "sofa")) << "undo could bring the destroyed one back";
     EXPECT_EQ(Editor.FindActorByName("Sofa"), nullptr);
 }
 
-TEST(FOrvMemoryEditorLevelTest, LabelsAreFreeTextAndAnEmptyLabelFallsBackToTheName)
+TEST(FOrvMemoryEditorLevelTest, LabelsAreFreeTextAndAnActorWithoutRootComponentCannotMove)
 {
     FOrvMemoryEditor Editor;
-    const FOrvActorRef A = Editor.AddActor({"", "Chair", "StaticMeshActor", {}, {}, true});
-    const FOrvActorRef B = Editor.AddActor({"", "Chair", "StaticMeshActor", {}, {}, true});
+    const FOrvActorRef A = Add(Editor, "", "Chair");
+    const FOrvActorRef B = Add(Editor, "", "Chair");
     EXPECT_EQ(Editor.World().GetActorLabel(A), Editor.World().GetActorLabel(B));
     Editor.Editing().SetActorLabel(B, "  ");
-    EXPECT_EQ(Editor.World().GetActorLabel(B), Editor.World().GetActorName(B));
+    EXPECT_EQ(Editor.World().GetActorLabel(B), Editor.World().GetActorName(B)) << "a blank label is the name";
+
+    const FOrvActorRef Info = Editor.AddActor({"", "", "Info", {{1, 2, 3}, {}}, {}, false});
+    Editor.Editing().SetActorTransform(Info, FOrvVector{5, 5, 5}, std::nullopt);
+    EXPECT_FALSE(Editor.Editing().GetRootComponentTransform(Info).has_value());
+    EXPECT_EQ(Editor.World().GetActorTransform(Info), FOrvTransform{});
 }
 
 TEST(FOrvMemoryEditorLevelTest, WithoutAnEditorWorldTheWorldPortsAreEmptyAndRefuseChanges)
@@ -64,15 +67,6 @@ TEST(FOrvMemoryEditorLevelTest, WithoutAnEditorWorldTheWorldPortsAreEmptyAndRefu
 
     Editor.SetEditorWorldAvailable(true);
     EXPECT_EQ(Editor.World().GetActorTransform(Actor).Location, (FOrvVector{1, 2, 3}));
-}
-
-TEST(FOrvMemoryEditorLevelTest, AnActorWithoutRootComponentHasNoTransformAndCannotMove)
-{
-    FOrvMemoryEditor Editor;
-    const FOrvActorRef Actor = Editor.AddActor({"", "", "Info", {{1, 2, 3}, {}}, {}, false});
-    Editor.Editing().SetActorTransform(Actor, FOrvVector{5, 5, 5}, std::nullopt);
-    EXPECT_FALSE(Editor.Editing().GetRootComponentTransform(Actor).has_value());
-    EXPECT_EQ(Editor.World().GetActorTransform(Actor), FOrvTransform{});
 }
 
 TEST(FOrvMemoryEditorLevelTest, SelectionKeepsOrderSkipsDuplicatesAndLosesDestroyedActors)

@@ -14,24 +14,14 @@ namespace
     const FOrvColor Red{40, 40, 220, 255};
     const FOrvColor Blue{220, 40, 40, 255};
 
-    /** Eye 5 m back along -X, 1 m up, looking along +X (yaw 0): +Y is to the right, +Z up. */
-    FOrvRenderCamera FrontCamera()
+    /**
+     * Perspective: eye 5 m back along -X, 1 m up, looking along +X: +Y is to the right, +Z up.
+     * Top: orthographic, straight down from 10 m: screen right is +Y and screen up is +X.
+     */
+    FOrvRenderCamera Camera(bool bTop = false)
     {
-        FOrvRenderCamera Camera;
-        Camera.View = {{-500, 0, 100}, {0, 0, 0}};
-        Camera.Size = {Width, Height};
-        return Camera;
-    }
-
-    /** Looking straight down from 10 m: screen right is +Y and screen up is +X. */
-    FOrvRenderCamera TopCamera()
-    {
-        FOrvRenderCamera Camera;
-        Camera.bPerspective = false;
-        Camera.View = {{0, 0, 1000}, {-90, 0, 0}};
-        Camera.OrthoWidth = 800;
-        Camera.Size = {Width, Height};
-        return Camera;
+        return bTop ? FOrvRenderCamera{false, {{0, 0, 1000}, {-90, 0, 0}}, 90, 800, {Width, Height}}
+                    : FOrvRenderCamera{true, {{-500, 0, 100}, {0, 0, 0}}, 90, 800, {Width, Height}};
     }
 
     FOrvRenderBox Box(const FOrvVector& Location, double HalfX, double HalfY, double Tall,
@@ -91,9 +81,9 @@ TEST(FOrvSoftwareRendererTest, TheSameSceneAndCameraGiveTheSamePixels)
 {
     const std::vector<FOrvRenderBox> Boxes{Box({0, 0, 0}, 50, 80, 120, Red, 30),
                                            Box({200, -150, 0}, 40, 40, 60, Blue)};
-    const std::vector<FOrvColor> First = Render(FrontCamera(), Boxes);
+    const std::vector<FOrvColor> First = Render(Camera(), Boxes);
     ASSERT_EQ(First.size(), static_cast<std::size_t>(Width * Height));
-    EXPECT_TRUE(SamePictures(First, Render(FrontCamera(), Boxes)));
+    EXPECT_TRUE(SamePictures(First, Render(Camera(), Boxes)));
     EXPECT_TRUE(std::ranges::all_of(First, [](const FOrvColor& Pixel) { return Pixel.A == 255; }));
     EXPECT_TRUE(
         Same(FOrvSoftwareRenderer::TintFor("FNV-CH-1102"), FOrvSoftwareRenderer::TintFor("FNV-CH-1102")));
@@ -103,8 +93,8 @@ TEST(FOrvSoftwareRendererTest, TheSameSceneAndCameraGiveTheSamePixels)
 
 TEST(FOrvSoftwareRendererTest, ABoxInFrontOfTheCameraChangesTheCentreAndNotTheSky)
 {
-    const std::vector<FOrvColor> Empty = Render(FrontCamera(), {});
-    const std::vector<FOrvColor> WithBox = Render(FrontCamera(), {Box({0, 0, 0}, 50, 50, 200, Red)});
+    const std::vector<FOrvColor> Empty = Render(Camera(), {});
+    const std::vector<FOrvColor> WithBox = Render(Camera(), {Box({0, 0, 0}, 50, 50, 200, Red)});
     EXPECT_FALSE(Same(At(Empty, Width / 2, Height / 2), At(WithBox, Width / 2, Height / 2)));
     EXPECT_TRUE(Same(At(Empty, 2, 2), At(WithBox, 2, 2)));
     EXPECT_TRUE(Same(At(Empty, Width - 3, Height - 3), At(WithBox, Width - 3, Height - 3)));
@@ -117,23 +107,23 @@ TEST(FOrvSoftwareRendererTest, ABoxInFrontOfTheCameraChangesTheCentreAndNotTheSk
 
 TEST(FOrvSoftwareRendererTest, AxesFollowTheEngineConvention)
 {
-    const std::vector<FOrvColor> Empty = Render(FrontCamera(), {});
-    const FChangedArea Right = Changed(Empty, Render(FrontCamera(), {Box({0, 150, 0}, 20, 20, 50, Red)}));
+    const std::vector<FOrvColor> Empty = Render(Camera(), {});
+    const FChangedArea Right = Changed(Empty, Render(Camera(), {Box({0, 150, 0}, 20, 20, 50, Red)}));
     EXPECT_GT(Right.MinX, Width / 2) << "+Y is to the right of a camera looking along +X";
 
     // Seen from above, a box long in local X lies along the screen's up axis; yaw 90 turns it to +Y,
     // which runs across the screen.
-    const std::vector<FOrvColor> Floor = Render(TopCamera(), {});
-    const FChangedArea Straight = Changed(Floor, Render(TopCamera(), {Box({0, 0, 0}, 150, 20, 10, Red)}));
-    const FChangedArea Turned = Changed(Floor, Render(TopCamera(), {Box({0, 0, 0}, 150, 20, 10, Red, 90)}));
+    const std::vector<FOrvColor> Floor = Render(Camera(true), {});
+    const FChangedArea Straight = Changed(Floor, Render(Camera(true), {Box({0, 0, 0}, 150, 20, 10, Red)}));
+    const FChangedArea Turned = Changed(Floor, Render(Camera(true), {Box({0, 0, 0}, 150, 20, 10, Red, 90)}));
     EXPECT_GT(Straight.MaxY - Straight.MinY, Straight.MaxX - Straight.MinX);
     EXPECT_GT(Turned.MaxX - Turned.MinX, Turned.MaxY - Turned.MinY);
-    const FChangedArea Forward = Changed(Floor, Render(TopCamera(), {Box({200, 0, 0}, 20, 20, 10, Red)}));
+    const FChangedArea Forward = Changed(Floor, Render(Camera(true), {Box({200, 0, 0}, 20, 20, 10, Red)}));
     EXPECT_LT(Forward.MaxY, Height / 2) << "+X is up on the screen of a top view";
 
     // A product's front (+Y) points to -X at yaw 90: a box reaching only forward then lies below the centre.
     const FOrvRenderBox FrontOnly{{{-20, 0, 0}, {20, 150, 10}}, {{0, 0, 0}, {0, 90, 0}}, Red};
-    const FChangedArea Yawed = Changed(Floor, Render(TopCamera(), {FrontOnly}));
+    const FChangedArea Yawed = Changed(Floor, Render(Camera(true), {FrontOnly}));
     EXPECT_GT(Yawed.MinY, Height / 2 - 2);
 }
 
@@ -141,16 +131,16 @@ TEST(FOrvSoftwareRendererTest, NearerBoxesHideFartherOnesWhateverTheDrawingOrder
 {
     const FOrvRenderBox Near = Box({-100, 0, 0}, 30, 30, 200, Red);
     const FOrvRenderBox Far = Box({200, 0, 0}, 30, 30, 200, Blue);
-    const std::vector<FOrvColor> NearFirst = Render(FrontCamera(), {Near, Far});
-    EXPECT_TRUE(SamePictures(NearFirst, Render(FrontCamera(), {Far, Near})));
-    EXPECT_TRUE(SamePictures(NearFirst, Render(FrontCamera(), {Near})));
+    const std::vector<FOrvColor> NearFirst = Render(Camera(), {Near, Far});
+    EXPECT_TRUE(SamePictures(NearFirst, Render(Camera(), {Far, Near})));
+    EXPECT_TRUE(SamePictures(NearFirst, Render(Camera(), {Near})));
 }
 
 TEST(FOrvSoftwareRendererTest, ABoxReachingBehindTheCameraDrawsItsVisiblePart)
 {
     // A long low bench from behind the eye to far ahead: clipped at the near plane, not dropped.
-    const std::vector<FOrvColor> Empty = Render(FrontCamera(), {});
-    const std::vector<FOrvColor> Bench = Render(FrontCamera(), {Box({0, 0, 0}, 1000, 40, 60, Red)});
+    const std::vector<FOrvColor> Empty = Render(Camera(), {});
+    const std::vector<FOrvColor> Bench = Render(Camera(), {Box({0, 0, 0}, 1000, 40, 60, Red)});
     const FChangedArea Area = Changed(Empty, Bench);
     EXPECT_GE(Area.MaxY, Height - 1) << "the part just in front of the eye reaches the bottom edge";
     EXPECT_FALSE(Same(At(Empty, Width / 2, Height - 1), At(Bench, Width / 2, Height - 1)));

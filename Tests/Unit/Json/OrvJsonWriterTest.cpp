@@ -5,37 +5,28 @@
 
 namespace
 {
-    std::string WritePretty(const std::string& JsonText)
+    std::string Write(const std::string& JsonText, EOrvJsonStyle Style = EOrvJsonStyle::Pretty)
     {
         rapidjson::Document Document;
         Document.Parse(JsonText.c_str());
         std::string Out;
-        FOrvJsonWriter Writer(Out);
-        Writer.Value(Document);
+        FOrvJsonWriter(Out, Style).Value(Document);
         return Out;
     }
 } // namespace
 
-TEST(FOrvJsonWriterTest, PrettyLayoutMatchesTheEngineWriter)
+TEST(FOrvJsonWriterTest, PrettyLayoutMatchesTheEngineWriterAndCondensedHasNoWhitespace)
 {
-    EXPECT_EQ(WritePretty(R"({"jsonrpc":"2.0","id":1,"result":{}})"),
+    EXPECT_EQ(Write(R"({"jsonrpc":"2.0","id":1,"result":{}})"),
               "{\r\n\t\"jsonrpc\": \"2.0\",\r\n\t\"id\": 1,\r\n\t\"result\":\r\n\t{\r\n\t}\r\n}");
-    EXPECT_EQ(WritePretty(R"({"location":[1,2.5,-3],"empty":[]})"),
+    EXPECT_EQ(Write(R"({"location":[1,2.5,-3],"empty":[]})"),
               "{\r\n\t\"location\": [ 1, 2.5, -3 ],\r\n\t\"empty\": []\r\n}");
-    EXPECT_EQ(WritePretty(R"({"assets":["a","b"]})"),
+    EXPECT_EQ(Write(R"({"assets":["a","b"]})"),
               "{\r\n\t\"assets\": [\r\n\t\t\"a\",\r\n\t\t\"b\"\r\n\t]\r\n}");
-    EXPECT_EQ(WritePretty(R"({"content":[{"type":"text"}]})"),
+    EXPECT_EQ(Write(R"({"content":[{"type":"text"}]})"),
               "{\r\n\t\"content\": [\r\n\t\t{\r\n\t\t\t\"type\": \"text\"\r\n\t\t}\r\n\t]\r\n}");
-}
-
-TEST(FOrvJsonWriterTest, CondensedLayoutHasNoWhitespace)
-{
-    rapidjson::Document Document;
-    Document.Parse(R"({"a":[1,"x",{"b":null}],"c":{"d":true}})");
-    std::string Out;
-    FOrvJsonWriter Writer(Out, EOrvJsonStyle::Condensed);
-    Writer.Value(Document);
-    EXPECT_EQ(Out, R"({"a":[1,"x",{"b":null}],"c":{"d":true}})");
+    const std::string Nested = R"({"a":[1,"x",{"b":null}],"c":{"d":true}})";
+    EXPECT_EQ(Write(Nested, EOrvJsonStyle::Condensed), Nested);
 }
 
 TEST(FOrvJsonWriterTest, NumbersRoundTripAndIntegersHaveNoFraction)

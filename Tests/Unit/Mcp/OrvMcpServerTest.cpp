@@ -18,6 +18,11 @@ namespace
 
     const FHeaders AnyOrigin = {{"Access-Control-Allow-Origin", "*"}};
 
+    auto Fields(const FOrvHttpResponse& Response)
+    {
+        return std::tie(Response.Code, Response.Body, Response.ContentType, Response.Headers);
+    }
+
     class FOrvMcpServerTest : public ::testing::Test
     {
     protected:
@@ -132,19 +137,13 @@ TEST_F(FOrvMcpServerTest, GetRoutesAnswerTheirFixedTextAtOnce)
     ASSERT_EQ(Health.Responses->size(), 1u);
     ASSERT_EQ(Sse.Responses->size(), 1u);
 
-    const FOrvHttpResponse& HealthResponse = Health.Responses->front();
-    EXPECT_EQ(HealthResponse.Code, 200);
-    EXPECT_EQ(HealthResponse.Body, R"({"status":"ok","service":"orvessa-ue-mcp"})");
-    EXPECT_EQ(HealthResponse.ContentType, "application/json");
-    EXPECT_TRUE(HealthResponse.Headers.empty());
-
+    EXPECT_EQ(
+        Fields(Health.Responses->front()),
+        std::tuple(200, R"({"status":"ok","service":"orvessa-ue-mcp"})", "application/json", FHeaders{}));
     // One endpoint event and the reply is complete: no stream is held open.
-    const FOrvHttpResponse& SseResponse = Sse.Responses->front();
-    EXPECT_EQ(SseResponse.Code, 200);
-    EXPECT_EQ(SseResponse.Body, "event: endpoint\ndata: /sse\n\n");
-    EXPECT_EQ(SseResponse.ContentType, "text/event-stream");
-    EXPECT_EQ(SseResponse.Headers,
-              (FHeaders{{"Cache-Control", "no-cache"}, {"Access-Control-Allow-Origin", "*"}}));
+    EXPECT_EQ(Fields(Sse.Responses->front()),
+              std::tuple(200, "event: endpoint\ndata: /sse\n\n", "text/event-stream",
+                         FHeaders{{"Cache-Control", "no-cache"}, {"Access-Control-Allow-Origin", "*"}}));
     EXPECT_EQ(HandlersMade, 0) << "the handler is made by the first JSON-RPC request, not by a probe";
 }
 
@@ -154,13 +153,12 @@ TEST_F(FOrvMcpServerTest, PostToMcpAndToSseGiveTheSameAnswerFromOneSharedHandler
     const std::string Body = R"({"jsonrpc":"2.0","id":"a1","method":"ping"})";
     const FOrvHttpResponse FromMcp = Post("/mcp", Body);
     const FOrvHttpResponse FromSse = Post("/sse", Body);
-    EXPECT_EQ(FromMcp.Code, 200);
-    EXPECT_EQ(FromMcp.ContentType, "application/json");
-    EXPECT_EQ(FromMcp.Headers, AnyOrigin);
-    EXPECT_EQ(FromMcp.Body,
-              "{\r\n\t\"jsonrpc\": \"2.0\",\r\n\t\"id\": \"a1\",\r\n\t\"result\":\r\n\t{\r\n\t}\r\n}");
-    EXPECT_EQ(std::tie(FromSse.Body, FromSse.ContentType, FromSse.Headers),
-              std::tie(FromMcp.Body, FromMcp.ContentType, FromMcp.Headers));
+    EXPECT_EQ(
+        Fields(FromMcp),
+        std::tuple(200,
+                   "{\r\n\t\"jsonrpc\": \"2.0\",\r\n\t\"id\": \"a1\",\r\n\t\"result\":\r\n\t{\r\n\t}\r\n}",
+                   "application/json", AnyOrigin));
+    EXPECT_EQ(Fields(FromSse), Fields(FromMcp));
     EXPECT_EQ(HandlersMade, 1);
 }
 
@@ -171,8 +169,7 @@ TEST_F(FOrvMcpServerTest, EmptyOrMalformedBodiesGetJsonRpcErrorsWithStatus200)
         R"({"jsonrpc":"2.0","id":null,"error":{"code":-32700,"message":"Parse error: invalid JSON"}})";
 
     const FOrvHttpResponse Empty = Post("/mcp", "");
-    EXPECT_EQ(Empty.Code, 200);
-    EXPECT_EQ(Empty.Headers, AnyOrigin);
+    EXPECT_EQ(std::tie(Empty.Code, Empty.Headers), std::tuple(200, AnyOrigin));
     EXPECT_EQ(OrvCondensedJson(Empty.Body), ParseError);
     EXPECT_EQ(OrvCondensedJson(Post("/sse", "{").Body), ParseError);
 

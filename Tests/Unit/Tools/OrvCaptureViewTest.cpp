@@ -7,7 +7,6 @@
 #include <turbojpeg.h>
 
 #include <cstring>
-#include <functional>
 #include <string>
 
 namespace
@@ -17,15 +16,13 @@ namespace
         static constexpr char Alphabet[] = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
         std::vector<unsigned char> Out;
         std::uint32_t Bits = 0;
-        int BitCount = 0;
+        int Count = 0;
         for (const char Letter : Text.substr(0, Text.find('=')))
         {
             Bits = (Bits << 6) | static_cast<std::uint32_t>(std::strchr(Alphabet, Letter) - Alphabet);
-            BitCount += 6;
-            if (BitCount >= 8)
+            if ((Count += 6) >= 8)
             {
-                BitCount -= 8;
-                Out.push_back(static_cast<unsigned char>(Bits >> BitCount));
+                Out.push_back(static_cast<unsigned char>(Bits >> (Count -= 8)));
             }
         }
         return Out;
@@ -82,6 +79,8 @@ TEST(FOrvCaptureViewTest, EncoderGetsTheWholeFrameOpaqueAndTheClientAnImageBlock
     EXPECT_EQ(Reply.MimeType, "image/jpeg");
     EXPECT_EQ(Reply.Text, FOrvBase64::Encode(Rig.Images.Output));
     EXPECT_EQ(Reply.Envelope.find("isError"), std::string::npos);
+    EXPECT_NE(Reply.Envelope.find("\t\t\t\t\"data\": \"" + Reply.Text + "\",\r\n"), std::string::npos)
+        << "as is, first";
 
     const FOrvFakeJpegRecord& Record = Rig.Images.Record;
     EXPECT_EQ(Record.Width, 5);
@@ -121,27 +120,19 @@ TEST(FOrvCaptureViewTest, QualityIsRoundedAndClampedAndOnlyNumbersCount)
 
 TEST(FOrvCaptureViewTest, EachFailingStepAnswersItsOwnSentence)
 {
-    const std::pair<std::function<void(FOrvToolTestRig&)>, std::string> Cases[] = {
-        {[](FOrvToolTestRig& R) { R.FakeViewport.bHasClientViewport = false; },
+    const std::pair<void (*)(FOrvToolTestRig&), std::string> Cases[] = {
+        {[](auto& R) { R.FakeViewport.bHasClientViewport = false; },
          R"({"error":"No active editor viewport. Open a Level Editor viewport and try again."})"},
-        {[](FOrvToolTestRig& R) {
-             R.FakeViewport.Size = {0, 2};
-         },
-         R"({"error":"Viewport has zero size."})"},
-        {[](FOrvToolTestRig& R) {
-             R.FakeViewport.Size = {4, -1};
-         },
-         R"({"error":"Viewport has zero size."})"},
-        {[](FOrvToolTestRig& R) { R.FakeViewport.bReadSucceeds = false; },
+        {[](auto& R) { R.FakeViewport.Size.X = 0; }, R"({"error":"Viewport has zero size."})"},
+        {[](auto& R) { R.FakeViewport.Size.Y = -1; }, R"({"error":"Viewport has zero size."})"},
+        {[](auto& R) { R.FakeViewport.bReadSucceeds = false; },
          R"({"error":"Viewport->ReadPixels failed."})"},
-        {[](FOrvToolTestRig& R) { R.FakeViewport.Frame.resize(7); },
+        {[](auto& R) { R.FakeViewport.Frame.resize(7); },
          "{\"error\":\"ReadPixels size mismatch \xE2\x80\x94 got 7 pixels, expected 8.\"}"},
-        {[](FOrvToolTestRig& R) { R.Images.bCreatesWrapper = false; },
+        {[](auto& R) { R.Images.bCreatesWrapper = false; },
          R"({"error":"Failed to create JPEG image wrapper."})"},
-        {[](FOrvToolTestRig& R) { R.Images.bSetRawSucceeds = false; },
-         R"({"error":"SetRaw failed on JPEG wrapper."})"},
-        {[](FOrvToolTestRig& R) { R.Images.Output.clear(); },
-         R"({"error":"JPEG compression produced empty buffer."})"},
+        {[](auto& R) { R.Images.bSetRawSucceeds = false; }, R"({"error":"SetRaw failed on JPEG wrapper."})"},
+        {[](auto& R) { R.Images.Output.clear(); }, R"({"error":"JPEG compression produced empty buffer."})"},
     };
     for (const auto& [Break, Expected] : Cases)
     {

@@ -63,16 +63,9 @@ TEST_F(FOrvMcpSceneToolsTest, ListSceneShowsOnlyActorsWhoseFirstMeshCarriesAVali
     const std::string ChairId = PlaceChair({{100, 200, 0.5}, {0, 90, 0}}, "Dining chair");
     Rig.AddMeshActor(Plain);
     Rig.AddMeshActor(Old);
-    FOrvMemoryActorDesc Empty;
-    Rig.Editor.AddActor(Empty);
-    FOrvMemoryActorDesc SecondComponentOnly;
-    SecondComponentOnly.StaticMeshComponents = {FOrvMeshRef{}, Chair};
-    Rig.Editor.AddActor(SecondComponentOnly);
-    FOrvMemoryActorDesc Blueprint;
-    Blueprint.Name = "BP_Table_C_1";
-    Blueprint.ClassName = "BP_Table_C";
-    Blueprint.StaticMeshComponents = {Chair, Plain};
-    Rig.Editor.AddActor(Blueprint);
+    Rig.Editor.AddActor({});
+    Rig.Editor.AddActor({"", "", "StaticMeshActor", {}, {FOrvMeshRef{}, Chair}, true});
+    Rig.Editor.AddActor({"BP_Table_C_1", "", "BP_Table_C", {}, {Chair, Plain}, true});
 
     const FOrvToolReply Reply = Rig.Call("ue_list_scene");
     EXPECT_FALSE(Reply.bAnsweredBeforePump);

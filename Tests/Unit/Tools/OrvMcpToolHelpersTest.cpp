@@ -73,7 +73,7 @@ TEST(FOrvVectorArgumentTest, MalformedVectorsCountAsAbsentAndExtraOrOddElementsA
     EXPECT_EQ((FOrvVector{A, B, C}), (FOrvVector{0, 0, 0}));
 }
 
-TEST(FOrvResolveStaticMeshTest, PathsLoadAndBareNamesFindTheCatalogueMeshIgnoringCaseAndPrefix)
+TEST(FOrvResolveStaticMeshTest, PathsLoadBareNamesFindTheFirstCatalogueMeshIgnoringCaseAndPrefix)
 {
     FOrvMemoryEditor Editor;
     const FOrvMeshRef Chair = AddMesh(Editor, "/Game/ORVESSA/Brand/Meshes/SM_Chair");
@@ -88,11 +88,7 @@ TEST(FOrvResolveStaticMeshTest, PathsLoadAndBareNamesFindTheCatalogueMeshIgnorin
     {
         EXPECT_FALSE(FOrvMcpToolHelpers::ResolveStaticMesh(Editor.Assets(), Path)) << Path;
     }
-}
-
-TEST(FOrvResolveStaticMeshTest, FirstStaticMeshOfTheNameInRegistryOrderWins)
-{
-    FOrvMemoryEditor Editor;
+    // The first static mesh of the name in registry order wins.
     Editor.AddAsset({"/Game/ORVESSA/A/SM_Lamp", "/Game/ORVESSA/A", "SM_Lamp", "/Script/Engine.Material"});
     const FOrvMeshRef First = AddMesh(Editor, "/Game/ORVESSA/B/SM_Lamp");
     AddMesh(Editor, "/Game/ORVESSA/C/SM_Lamp");
