@@ -12,6 +12,10 @@
 #include <optional>
 #include <vector>
 
+#if defined(__SSE2__) || defined(_M_X64)
+#include <emmintrin.h>
+#endif
+
 namespace
 {
     constexpr std::string_view OrvCsvSeparatorLine = ",,,,,,,,,,\n";
@@ -25,9 +29,28 @@ namespace
     }
 
     // Whether a field holds , " LF or CR. This runs over every byte of the schedule, which is mostly plain
-    // text, so it looks at eight bytes at a time (a zero byte in Word ^ Pattern marks a match).
+    // text: with SSE2 (every x64 editor has it) sixteen bytes are compared at a time, elsewhere eight
+    // (a zero byte in Word ^ Pattern marks a match).
     bool OrvCsvNeedsQuoting(std::string_view Field)
     {
+        std::size_t Index = 0;
+#if defined(__SSE2__) || defined(_M_X64)
+        const __m128i Comma = _mm_set1_epi8(',');
+        const __m128i Quote = _mm_set1_epi8('"');
+        const __m128i LineFeed = _mm_set1_epi8('\n');
+        const __m128i CarriageReturn = _mm_set1_epi8('\r');
+        for (; Index + 16 <= Field.size(); Index += 16)
+        {
+            const __m128i Block = _mm_loadu_si128(reinterpret_cast<const __m128i*>(Field.data() + Index));
+            const __m128i Hits = _mm_or_si128(
+                _mm_or_si128(_mm_cmpeq_epi8(Block, Comma), _mm_cmpeq_epi8(Block, Quote)),
+                _mm_or_si128(_mm_cmpeq_epi8(Block, LineFeed), _mm_cmpeq_epi8(Block, CarriageReturn)));
+            if (_mm_movemask_epi8(Hits) != 0)
+            {
+                return true;
+            }
+        }
+#endif
         constexpr std::uint64_t Ones = 0x0101010101010101ull;
         constexpr std::uint64_t Highs = 0x8080808080808080ull;
         const auto Matches = [](std::uint64_t Word, unsigned char Byte)
@@ -36,7 +59,6 @@ namespace
             return (Masked - Ones) & ~Masked & Highs;
         };
         std::uint64_t Found = 0;
-        std::size_t Index = 0;
         for (; Index + 8 <= Field.size(); Index += 8)
         {
             std::uint64_t Word;
