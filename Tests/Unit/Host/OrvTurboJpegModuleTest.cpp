@@ -35,6 +35,7 @@ namespace
         return bOk ? std::pair{Width, Height} : std::pair{0, 0};
     }
 
+    // The wrapper keeps only a pointer to the pixels: they must outlive it, so never pass a temporary.
     std::unique_ptr<IOrvImageWrapper> Wrap(FOrvTurboJpegModule& Module,
                                            const std::vector<std::uint8_t>& Pixels, int Width, int Height)
     {
@@ -42,6 +43,8 @@ namespace
         EXPECT_TRUE(Wrapper && Wrapper->SetRaw(Pixels.data(), std::int64_t(Pixels.size()), Width, Height));
         return Wrapper;
     }
+    std::unique_ptr<IOrvImageWrapper> Wrap(FOrvTurboJpegModule&, std::vector<std::uint8_t>&&, int,
+                                           int) = delete;
 } // namespace
 
 TEST(FOrvTurboJpegModuleTest, CompressedOutputDecodesToTheRawSizeAndMismatchedPixelsAreRefused)
@@ -69,7 +72,8 @@ TEST(FOrvTurboJpegModuleTest, AskedQualityIsUsedAndLowerQualityIsSmaller)
     EXPECT_EQ(FOrvTurboJpegModule::MapQuality(250), 100);
 
     FOrvTurboJpegModule Module;
-    const std::unique_ptr<IOrvImageWrapper> Wrapper = Wrap(Module, TestCard(256, 256, 3), 256, 256);
+    const std::vector<std::uint8_t> Pixels = TestCard(256, 256, 3);
+    const std::unique_ptr<IOrvImageWrapper> Wrapper = Wrap(Module, Pixels, 256, 256);
     const std::size_t Low = Wrapper->GetCompressed(5).size();
     EXPECT_LT(Low, Wrapper->GetCompressed(95).size());
 }
@@ -77,11 +81,13 @@ TEST(FOrvTurboJpegModuleTest, AskedQualityIsUsedAndLowerQualityIsSmaller)
 TEST(FOrvTurboJpegModuleTest, AWrapperKeepsItsOutputWhileAnotherOneCompresses)
 {
     FOrvTurboJpegModule Module;
-    const std::unique_ptr<IOrvImageWrapper> First = Wrap(Module, TestCard(64, 32, 5), 64, 32);
+    const std::vector<std::uint8_t> Small = TestCard(64, 32, 5);
+    const std::unique_ptr<IOrvImageWrapper> First = Wrap(Module, Small, 64, 32);
     const std::span<const std::uint8_t> FirstJpeg = First->GetCompressed(80);
     const std::vector<std::uint8_t> FirstCopy(FirstJpeg.begin(), FirstJpeg.end());
 
-    const std::unique_ptr<IOrvImageWrapper> Second = Wrap(Module, TestCard(640, 480, 9), 640, 480);
+    const std::vector<std::uint8_t> Large = TestCard(640, 480, 9);
+    const std::unique_ptr<IOrvImageWrapper> Second = Wrap(Module, Large, 640, 480);
     EXPECT_EQ(DecodedSize(Second->GetCompressed(80)), std::pair(640, 480));
     EXPECT_EQ(std::vector<std::uint8_t>(FirstJpeg.begin(), FirstJpeg.end()), FirstCopy);
 }
