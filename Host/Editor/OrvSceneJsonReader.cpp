@@ -34,52 +34,47 @@ bool FOrvSceneJsonReader::CheckObject(const rapidjson::Value& Value, const std::
     return true;
 }
 
-bool FOrvSceneJsonReader::ReadString(const rapidjson::Value& Object, std::string_view Key,
-                                     const std::string& Place, std::string& Out)
+template <typename TValue, typename TIsType, typename TGet>
+bool FOrvSceneJsonReader::ReadScalar(const rapidjson::Value& Object, std::string_view Key,
+                                     const std::string& Place, TValue& Out, TIsType IsType, TGet Get,
+                                     const char* Expected)
 {
     const rapidjson::Value* Field = FOrvJson::FindField(Object, Key);
     if (!Field)
     {
         return true;
     }
-    if (!Field->IsString())
+    if (!IsType(*Field))
     {
-        return Fail(Join(Place, Key), "expected a string");
+        return Fail(Join(Place, Key), Expected);
     }
-    Out.assign(Field->GetString(), Field->GetStringLength());
+    Out = Get(*Field);
     return true;
+}
+
+bool FOrvSceneJsonReader::ReadString(const rapidjson::Value& Object, std::string_view Key,
+                                     const std::string& Place, std::string& Out)
+{
+    return ReadScalar(
+        Object, Key, Place, Out, [](const rapidjson::Value& Field) { return Field.IsString(); },
+        [](const rapidjson::Value& Field) { return std::string(FOrvJson::View(Field)); },
+        "expected a string");
 }
 
 bool FOrvSceneJsonReader::ReadBool(const rapidjson::Value& Object, std::string_view Key,
                                    const std::string& Place, bool& bOut)
 {
-    const rapidjson::Value* Field = FOrvJson::FindField(Object, Key);
-    if (!Field)
-    {
-        return true;
-    }
-    if (!Field->IsBool())
-    {
-        return Fail(Join(Place, Key), "expected true or false");
-    }
-    bOut = Field->GetBool();
-    return true;
+    return ReadScalar(
+        Object, Key, Place, bOut, [](const rapidjson::Value& Field) { return Field.IsBool(); },
+        [](const rapidjson::Value& Field) { return Field.GetBool(); }, "expected true or false");
 }
 
 bool FOrvSceneJsonReader::ReadNumber(const rapidjson::Value& Object, std::string_view Key,
                                      const std::string& Place, double& Out)
 {
-    const rapidjson::Value* Field = FOrvJson::FindField(Object, Key);
-    if (!Field)
-    {
-        return true;
-    }
-    if (!Field->IsNumber())
-    {
-        return Fail(Join(Place, Key), "expected a number");
-    }
-    Out = Field->GetDouble();
-    return true;
+    return ReadScalar(
+        Object, Key, Place, Out, [](const rapidjson::Value& Field) { return Field.IsNumber(); },
+        [](const rapidjson::Value& Field) { return Field.GetDouble(); }, "expected a number");
 }
 
 bool FOrvSceneJsonReader::ReadTriple(const rapidjson::Value& Object, std::string_view Key,

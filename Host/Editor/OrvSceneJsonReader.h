@@ -49,6 +49,12 @@ public:
                      FOrvRotator& Out);
 
 private:
+    /** An optional member: absent leaves Out as it is; present must pass IsType, else Expected is reported.
+     */
+    template <typename TValue, typename TIsType, typename TGet>
+    bool ReadScalar(const rapidjson::Value& Object, std::string_view Key, const std::string& Place,
+                    TValue& Out, TIsType IsType, TGet Get, const char* Expected);
+
     bool ReadTriple(const rapidjson::Value& Object, std::string_view Key, const std::string& Place,
                     double& OutA, double& OutB, double& OutC);
 
