@@ -29,6 +29,8 @@
 #include <utility>
 #include <vector>
 
+using namespace OrvWebBridge;
+
 namespace
 {
     constexpr int OrvCaptureQuality = 80;

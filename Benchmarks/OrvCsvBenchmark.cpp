@@ -14,6 +14,8 @@
 #include <string>
 #include <vector>
 
+using namespace OrvWebBridge;
+
 namespace
 {
     constexpr int OrvCsvBenchProducts = 10000;

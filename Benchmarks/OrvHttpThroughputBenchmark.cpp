@@ -23,6 +23,8 @@
 #include <string>
 #include <thread>
 
+using namespace OrvWebBridge;
+
 using namespace OrvBeast;
 
 namespace

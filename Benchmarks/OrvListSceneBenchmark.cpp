@@ -7,12 +7,13 @@
 #include "Tests/Support/OrvFakeCapturePorts.h"
 #include "Tests/Support/OrvManualGameThread.h"
 
-#include <rapidjson/stringbuffer.h>
-#include <rapidjson/writer.h>
+#include "Core/Json/OrvRapidJson.h"
 
 #include <cstdio>
 #include <string>
 #include <vector>
+
+using namespace OrvWebBridge;
 
 namespace
 {

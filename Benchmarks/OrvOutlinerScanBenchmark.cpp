@@ -13,6 +13,8 @@
 #include <string>
 #include <vector>
 
+using namespace OrvWebBridge;
+
 namespace
 {
     class FOrvScanBenchQuietLog : public IOrvLog

@@ -5,6 +5,8 @@
 
 #include <cstdio>
 
+using namespace OrvWebBridge;
+
 namespace
 {
     void AddCatalogOptions(CLI::App& Command, FOrvCatalogSourceOptions& Catalog)

@@ -11,6 +11,16 @@ engine_includes=$(grep -rnE '#include\s*[<"](CoreMinimal\.h|Engine/|Editor\.h|Un
 non_core_includes=$(grep -rnE '#include\s*"' "$core" | grep -vE '#include\s*"Core/')
 [ -n "$non_core_includes" ] && report "Quoted includes from outside the core:" "$non_core_includes"
 
+# RapidJSON comes in through one wrapper, which silences its warnings for the engine's compilers.
+direct_rapidjson=$(grep -rnE '#include\s*<rapidjson/' "$core" | grep -v '/Json/OrvRapidJson\.h:')
+[ -n "$direct_rapidjson" ] && report "RapidJSON included around its wrapper (Core/Json/OrvRapidJson.h):" "$direct_rapidjson"
+
+# The maker's closed modules declare FOrv* names of their own; the core's live in one namespace.
+outside_namespace=$(find "$core" -name '*.h' ! -name 'OrvRapidJson.h' | sort | while read -r file; do
+    grep -q '^namespace OrvWebBridge$' "$file" || echo "$file"
+done)
+[ -n "$outside_namespace" ] && report "Core headers outside namespace OrvWebBridge:" "$outside_namespace"
+
 # Code only: comments may name the engine calls that a port stands for, and string literals hold
 # user-facing sentences ("... and try again.").
 code_grep() {

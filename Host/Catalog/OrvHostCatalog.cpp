@@ -5,35 +5,38 @@
 #include "Host/Runtime/OrvHostEventLoop.h"
 #include "Host/Runtime/OrvHttpCatalogApi.h"
 
-FOrvHostCatalog FOrvHostCatalog::Open(const FOrvCatalogSourceOptions& Options, FOrvHostEventLoop& Loop)
+namespace OrvWebBridge
 {
-    FOrvHostCatalog Catalog;
-    if (!Options.ApiUrl.empty())
+    FOrvHostCatalog FOrvHostCatalog::Open(const FOrvCatalogSourceOptions& Options, FOrvHostEventLoop& Loop)
     {
-        std::string Problem;
-        if (!FOrvHttpCatalogApi::IsValidBaseUrl(Options.ApiUrl, Problem))
+        FOrvHostCatalog Catalog;
+        if (!Options.ApiUrl.empty())
         {
-            Catalog.Error = "--api " + Options.ApiUrl + ": " + Problem;
+            std::string Problem;
+            if (!FOrvHttpCatalogApi::IsValidBaseUrl(Options.ApiUrl, Problem))
+            {
+                Catalog.Error = "--api " + Options.ApiUrl + ": " + Problem;
+                return Catalog;
+            }
+            Catalog.Api = std::make_unique<FOrvHttpCatalogApi>(Loop, Options.ApiUrl);
+            Catalog.Description = "catalogue service at " + Options.ApiUrl;
             return Catalog;
         }
-        Catalog.Api = std::make_unique<FOrvHttpCatalogApi>(Loop, Options.ApiUrl);
-        Catalog.Description = "catalogue service at " + Options.ApiUrl;
-        return Catalog;
-    }
 
-    auto Offline = std::make_unique<FOrvOfflineCatalogApi>(Loop.GameThread());
-    const bool bFromFile = !Options.CatalogFile.empty();
-    const FOrvOfflineCatalogLoad Load =
-        bFromFile ? Offline->LoadFile(Options.CatalogFile)
-                  : Offline->LoadText(FOrvDemoScene::CatalogJson(), "built-in demo catalogue");
-    if (!Load.bOk)
-    {
-        Catalog.Error = Load.Error;
+        auto Offline = std::make_unique<FOrvOfflineCatalogApi>(Loop.GameThread());
+        const bool bFromFile = !Options.CatalogFile.empty();
+        const FOrvOfflineCatalogLoad Load =
+            bFromFile ? Offline->LoadFile(Options.CatalogFile)
+                      : Offline->LoadText(FOrvDemoScene::CatalogJson(), "built-in demo catalogue");
+        if (!Load.bOk)
+        {
+            Catalog.Error = Load.Error;
+            return Catalog;
+        }
+        Catalog.Description = (bFromFile ? "offline catalogue " + Options.CatalogFile
+                                         : std::string("built-in demo catalogue")) +
+                              " (" + std::to_string(Offline->GetProductCount()) + " products)";
+        Catalog.Api = std::move(Offline);
         return Catalog;
     }
-    Catalog.Description =
-        (bFromFile ? "offline catalogue " + Options.CatalogFile : std::string("built-in demo catalogue")) +
-        " (" + std::to_string(Offline->GetProductCount()) + " products)";
-    Catalog.Api = std::move(Offline);
-    return Catalog;
-}
+} // namespace OrvWebBridge

@@ -5,16 +5,19 @@
 
 #include <cstdio>
 
-int RunOutlinerCommand(const FOrvOutlinerOptions& Options)
+namespace OrvWebBridge
 {
-    FOrvOutlinerSession Session(Options.bVerbose);
-    std::string Error;
-    if (!Session.Open(Options.SceneFile, Options.Catalog, Error) || !Session.ScanToCompletion(Error))
+    int RunOutlinerCommand(const FOrvOutlinerOptions& Options)
     {
-        std::fprintf(stderr, "orv-host outliner: %s\n", Error.c_str());
-        return 1;
+        FOrvOutlinerSession Session(Options.bVerbose);
+        std::string Error;
+        if (!Session.Open(Options.SceneFile, Options.Catalog, Error) || !Session.ScanToCompletion(Error))
+        {
+            std::fprintf(stderr, "orv-host outliner: %s\n", Error.c_str());
+            return 1;
+        }
+        const std::string Text = FOrvOutlinerTextView::Render(Session.Panel());
+        std::fwrite(Text.data(), 1, Text.size(), stdout);
+        return 0;
     }
-    const std::string Text = FOrvOutlinerTextView::Render(Session.Panel());
-    std::fwrite(Text.data(), 1, Text.size(), stdout);
-    return 0;
-}
+} // namespace OrvWebBridge

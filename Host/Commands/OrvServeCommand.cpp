@@ -12,37 +12,40 @@
 #include <string>
 #include <unistd.h>
 
-int RunServeCommand(const FOrvServeOptions& Options)
+namespace OrvWebBridge
 {
-    FOrvMemoryEditor Editor;
-    const FOrvSceneFileResult Loaded =
-        Options.SceneFile.empty()
-            ? FOrvSceneFile::LoadText(std::string(FOrvDemoScene::SceneJson()), "demo scene", Editor)
-            : FOrvSceneFile::Load(Options.SceneFile, Editor);
-    if (!Loaded.bOk)
+    int RunServeCommand(const FOrvServeOptions& Options)
     {
-        std::fprintf(stderr, "orv-host serve: %s\n", Loaded.Error.c_str());
-        return 1;
-    }
+        FOrvMemoryEditor Editor;
+        const FOrvSceneFileResult Loaded =
+            Options.SceneFile.empty()
+                ? FOrvSceneFile::LoadText(std::string(FOrvDemoScene::SceneJson()), "demo scene", Editor)
+                : FOrvSceneFile::Load(Options.SceneFile, Editor);
+        if (!Loaded.bOk)
+        {
+            std::fprintf(stderr, "orv-host serve: %s\n", Loaded.Error.c_str());
+            return 1;
+        }
 
-    FOrvConsoleLog Log(Options.bVerbose);
-    FOrvHostEventLoop Loop;
-    FOrvTurboJpegModule Jpeg;
-    FOrvServeSession Session(Loop, Editor, Jpeg, Log, Options.SceneFile);
-    std::string Error;
-    if (!Session.OpenOutliner(Options.Catalog, Error))
-    {
-        std::fprintf(stderr, "orv-host serve: %s\n", Error.c_str());
-        return 1;
+        FOrvConsoleLog Log(Options.bVerbose);
+        FOrvHostEventLoop Loop;
+        FOrvTurboJpegModule Jpeg;
+        FOrvServeSession Session(Loop, Editor, Jpeg, Log, Options.SceneFile);
+        std::string Error;
+        if (!Session.OpenOutliner(Options.Catalog, Error))
+        {
+            std::fprintf(stderr, "orv-host serve: %s\n", Error.c_str());
+            return 1;
+        }
+        if (!Session.Start(Options.Port, Error))
+        {
+            std::fprintf(stderr, "orv-host serve: %s\n", Error.c_str());
+            return 1;
+        }
+        if (!Options.bNoConsole)
+        {
+            Session.StartConsole(STDIN_FILENO);
+        }
+        return Session.Run();
     }
-    if (!Session.Start(Options.Port, Error))
-    {
-        std::fprintf(stderr, "orv-host serve: %s\n", Error.c_str());
-        return 1;
-    }
-    if (!Options.bNoConsole)
-    {
-        Session.StartConsole(STDIN_FILENO);
-    }
-    return Session.Run();
-}
+} // namespace OrvWebBridge

@@ -3,9 +3,11 @@
 // name holds a comma and double quotes, which the schedule CSV has to escape.
 #include "Host/Editor/OrvDemoScene.h"
 
-std::string_view FOrvDemoScene::CatalogJson()
+namespace OrvWebBridge
 {
-    static constexpr std::string_view Text = R"json({
+    std::string_view FOrvDemoScene::CatalogJson()
+    {
+        static constexpr std::string_view Text = R"json({
   "products": [
     {
       "id": "FNV-TB-2040",
@@ -257,5 +259,6 @@ std::string_view FOrvDemoScene::CatalogJson()
   ]
 }
 )json";
-    return Text;
-}
+        return Text;
+    }
+} // namespace OrvWebBridge

@@ -9,9 +9,11 @@
 // vase. Walls, plinth and light are architecture, not catalogue products.
 #include "Host/Editor/OrvDemoScene.h"
 
-std::string_view FOrvDemoScene::SceneJson()
+namespace OrvWebBridge
 {
-    static constexpr std::string_view Text = R"json({
+    std::string_view FOrvDemoScene::SceneJson()
+    {
+        static constexpr std::string_view Text = R"json({
     "version": 1,
     "map": "DemoRoom",
     "assets": [
@@ -80,5 +82,6 @@ std::string_view FOrvDemoScene::SceneJson()
     }
 }
 )json";
-    return Text;
-}
+        return Text;
+    }
+} // namespace OrvWebBridge

@@ -1,17 +1,20 @@
 #include "Host/Editor/OrvMemoryEditorPorts.h"
 
-std::vector<FOrvAssetData> FOrvMemoryAssetRegistryPort::GetAssetsByPath(std::string_view PackagePath,
-                                                                        bool bRecursive) const
+namespace OrvWebBridge
 {
-    return Context.Assets.GetAssetsByPath(PackagePath, bRecursive);
-}
+    std::vector<FOrvAssetData> FOrvMemoryAssetRegistryPort::GetAssetsByPath(std::string_view PackagePath,
+                                                                            bool bRecursive) const
+    {
+        return Context.Assets.GetAssetsByPath(PackagePath, bRecursive);
+    }
 
-FOrvMeshRef FOrvMemoryAssetRegistryPort::LoadStaticMesh(std::string_view ObjectPath)
-{
-    return Context.Assets.FindMeshByObjectPath(ObjectPath);
-}
+    FOrvMeshRef FOrvMemoryAssetRegistryPort::LoadStaticMesh(std::string_view ObjectPath)
+    {
+        return Context.Assets.FindMeshByObjectPath(ObjectPath);
+    }
 
-FOrvMeshRef FOrvMemoryAssetRegistryPort::LoadStaticMeshAsset(const FOrvAssetData& Asset)
-{
-    return Context.Assets.FindMeshByAsset(Asset);
-}
+    FOrvMeshRef FOrvMemoryAssetRegistryPort::LoadStaticMeshAsset(const FOrvAssetData& Asset)
+    {
+        return Context.Assets.FindMeshByAsset(Asset);
+    }
+} // namespace OrvWebBridge

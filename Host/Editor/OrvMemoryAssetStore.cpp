@@ -3,117 +3,120 @@
 #include "Core/Common/OrvStrings.h"
 #include "Host/Editor/OrvObjectNames.h"
 
-FOrvMeshRef FOrvMemoryAssetStore::AddStaticMesh(const FOrvMemoryMeshDesc& Mesh)
+namespace OrvWebBridge
 {
-    FOrvAssetData Asset;
-    Asset.PackageName = Mesh.PackageName;
-    Asset.PackagePath = std::string(FOrvObjectNames::PackagePath(Mesh.PackageName));
-    Asset.AssetName = std::string(FOrvObjectNames::ShortPackageName(Mesh.PackageName));
-    Asset.ClassPath = std::string(StaticMeshClassPath);
-    if (Asset.AssetName.empty() || !Register(Asset))
+    FOrvMeshRef FOrvMemoryAssetStore::AddStaticMesh(const FOrvMemoryMeshDesc& Mesh)
     {
-        return {};
-    }
-    Meshes.push_back(Mesh);
-    const FOrvMeshRef Ref{Meshes.size()};
-    MeshByPackage.emplace(FOrvObjectNames::Key(Mesh.PackageName), Ref);
-    return Ref;
-}
-
-bool FOrvMemoryAssetStore::AddAsset(const FOrvAssetData& Asset)
-{
-    return !Asset.PackageName.empty() && Register(Asset);
-}
-
-bool FOrvMemoryAssetStore::Register(const FOrvAssetData& Asset)
-{
-    const auto [It, bInserted] =
-        RegistryByPackage.emplace(FOrvObjectNames::Key(Asset.PackageName), Registry.size());
-    if (bInserted)
-    {
-        Registry.push_back(Asset);
-    }
-    return bInserted;
-}
-
-std::vector<FOrvAssetData> FOrvMemoryAssetStore::GetAssetsByPath(std::string_view PackagePath,
-                                                                 bool bRecursive) const
-{
-    // Paths are FNames: compared without case, and a recursive query covers whole sub-folders only
-    // ("/Game/ORV" does not cover "/Game/ORVESSA").
-    std::vector<FOrvAssetData> Result;
-    for (const FOrvAssetData& Asset : Registry)
-    {
-        const std::string_view Path = Asset.PackagePath;
-        const bool bSameFolder = FOrvStrings::EqualsIgnoreCase(Path, PackagePath);
-        const bool bBelow = bRecursive && !PackagePath.empty() && Path.size() > PackagePath.size() &&
-                            Path[PackagePath.size()] == '/' &&
-                            FOrvStrings::StartsWithIgnoreCase(Path, PackagePath);
-        if (bSameFolder || bBelow)
+        FOrvAssetData Asset;
+        Asset.PackageName = Mesh.PackageName;
+        Asset.PackagePath = std::string(FOrvObjectNames::PackagePath(Mesh.PackageName));
+        Asset.AssetName = std::string(FOrvObjectNames::ShortPackageName(Mesh.PackageName));
+        Asset.ClassPath = std::string(StaticMeshClassPath);
+        if (Asset.AssetName.empty() || !Register(Asset))
         {
-            Result.push_back(Asset);
+            return {};
         }
+        Meshes.push_back(Mesh);
+        const FOrvMeshRef Ref{Meshes.size()};
+        MeshByPackage.emplace(FOrvObjectNames::Key(Mesh.PackageName), Ref);
+        return Ref;
     }
-    return Result;
-}
 
-FOrvMeshRef FOrvMemoryAssetStore::FindMeshByObjectPath(std::string_view ObjectPath) const
-{
-    std::string_view Package;
-    std::string_view AssetName;
-    FOrvObjectNames::SplitObjectPath(ObjectPath, Package, AssetName);
-    if (Package.empty() || Package.front() != '/')
+    bool FOrvMemoryAssetStore::AddAsset(const FOrvAssetData& Asset)
     {
-        return {};
+        return !Asset.PackageName.empty() && Register(Asset);
     }
-    const auto It = MeshByPackage.find(FOrvObjectNames::Key(Package));
-    if (It == MeshByPackage.end())
-    {
-        return {};
-    }
-    // A package path alone names the package's main asset, as StaticLoadObject assumes; anything
-    // after the dot must be that asset's own name (sub-objects are not meshes).
-    const FOrvMemoryMeshDesc& Mesh = Meshes[It->second.Value - 1];
-    if (!AssetName.empty() &&
-        !FOrvStrings::EqualsIgnoreCase(AssetName, FOrvObjectNames::ShortPackageName(Mesh.PackageName)))
-    {
-        return {};
-    }
-    return It->second;
-}
 
-FOrvMeshRef FOrvMemoryAssetStore::FindMeshByAsset(const FOrvAssetData& Asset) const
-{
-    if (!FOrvStrings::EqualsIgnoreCase(Asset.ClassPath, StaticMeshClassPath))
+    bool FOrvMemoryAssetStore::Register(const FOrvAssetData& Asset)
     {
-        return {};
-    }
-    return FindMeshByObjectPath(Asset.PackageName + "." + Asset.AssetName);
-}
-
-const FOrvMemoryMeshDesc* FOrvMemoryAssetStore::FindMesh(FOrvMeshRef Mesh) const
-{
-    if (Mesh.Value == 0 || Mesh.Value > Meshes.size())
-    {
-        return nullptr;
-    }
-    return &Meshes[Mesh.Value - 1];
-}
-
-std::vector<FOrvMemoryMeshDesc> FOrvMemoryAssetStore::GetMeshes() const
-{
-    return {Meshes.begin(), Meshes.end()};
-}
-
-std::vector<FOrvAssetData> FOrvMemoryAssetStore::GetNonMeshAssets() const
-{
-    std::vector<FOrvAssetData> Result;
-    for (const FOrvAssetData& Asset : Registry)
-    {
-        if (!MeshByPackage.contains(FOrvObjectNames::Key(Asset.PackageName)))
+        const auto [It, bInserted] =
+            RegistryByPackage.emplace(FOrvObjectNames::Key(Asset.PackageName), Registry.size());
+        if (bInserted)
         {
-            Result.push_back(Asset);
+            Registry.push_back(Asset);
         }
+        return bInserted;
     }
-    return Result;
-}
+
+    std::vector<FOrvAssetData> FOrvMemoryAssetStore::GetAssetsByPath(std::string_view PackagePath,
+                                                                     bool bRecursive) const
+    {
+        // Paths are FNames: compared without case, and a recursive query covers whole sub-folders only
+        // ("/Game/ORV" does not cover "/Game/ORVESSA").
+        std::vector<FOrvAssetData> Result;
+        for (const FOrvAssetData& Asset : Registry)
+        {
+            const std::string_view Path = Asset.PackagePath;
+            const bool bSameFolder = FOrvStrings::EqualsIgnoreCase(Path, PackagePath);
+            const bool bBelow = bRecursive && !PackagePath.empty() && Path.size() > PackagePath.size() &&
+                                Path[PackagePath.size()] == '/' &&
+                                FOrvStrings::StartsWithIgnoreCase(Path, PackagePath);
+            if (bSameFolder || bBelow)
+            {
+                Result.push_back(Asset);
+            }
+        }
+        return Result;
+    }
+
+    FOrvMeshRef FOrvMemoryAssetStore::FindMeshByObjectPath(std::string_view ObjectPath) const
+    {
+        std::string_view Package;
+        std::string_view AssetName;
+        FOrvObjectNames::SplitObjectPath(ObjectPath, Package, AssetName);
+        if (Package.empty() || Package.front() != '/')
+        {
+            return {};
+        }
+        const auto It = MeshByPackage.find(FOrvObjectNames::Key(Package));
+        if (It == MeshByPackage.end())
+        {
+            return {};
+        }
+        // A package path alone names the package's main asset, as StaticLoadObject assumes; anything
+        // after the dot must be that asset's own name (sub-objects are not meshes).
+        const FOrvMemoryMeshDesc& Mesh = Meshes[It->second.Value - 1];
+        if (!AssetName.empty() &&
+            !FOrvStrings::EqualsIgnoreCase(AssetName, FOrvObjectNames::ShortPackageName(Mesh.PackageName)))
+        {
+            return {};
+        }
+        return It->second;
+    }
+
+    FOrvMeshRef FOrvMemoryAssetStore::FindMeshByAsset(const FOrvAssetData& Asset) const
+    {
+        if (!FOrvStrings::EqualsIgnoreCase(Asset.ClassPath, StaticMeshClassPath))
+        {
+            return {};
+        }
+        return FindMeshByObjectPath(Asset.PackageName + "." + Asset.AssetName);
+    }
+
+    const FOrvMemoryMeshDesc* FOrvMemoryAssetStore::FindMesh(FOrvMeshRef Mesh) const
+    {
+        if (Mesh.Value == 0 || Mesh.Value > Meshes.size())
+        {
+            return nullptr;
+        }
+        return &Meshes[Mesh.Value - 1];
+    }
+
+    std::vector<FOrvMemoryMeshDesc> FOrvMemoryAssetStore::GetMeshes() const
+    {
+        return {Meshes.begin(), Meshes.end()};
+    }
+
+    std::vector<FOrvAssetData> FOrvMemoryAssetStore::GetNonMeshAssets() const
+    {
+        std::vector<FOrvAssetData> Result;
+        for (const FOrvAssetData& Asset : Registry)
+        {
+            if (!MeshByPackage.contains(FOrvObjectNames::Key(Asset.PackageName)))
+            {
+                Result.push_back(Asset);
+            }
+        }
+        return Result;
+    }
+} // namespace OrvWebBridge

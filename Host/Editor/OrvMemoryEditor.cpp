@@ -2,195 +2,198 @@
 
 #include "Host/Editor/OrvMemoryEditorPorts.h"
 
-struct FOrvMemoryEditor::FState
+namespace OrvWebBridge
 {
-    FOrvMemoryEditorContext Context;
-    FOrvMemoryWorldPort World{Context};
-    FOrvMemoryLevelEventsPort LevelEvents{Context};
-    FOrvMemoryActorEditingPort Editing{Context};
-    FOrvMemorySelectionPort Selection{Context};
-    FOrvMemoryAssetRegistryPort Assets{Context};
-    FOrvMemoryStaticMeshesPort Meshes{Context};
-    FOrvMemoryViewportPort Viewport{Context};
-};
-
-FOrvMemoryEditor::FOrvMemoryEditor() : State(std::make_unique<FState>())
-{
-    State->Context.Viewport = FOrvMemoryViewportDesc{};
-}
-
-FOrvMemoryEditor::~FOrvMemoryEditor() = default;
-
-FOrvMeshRef FOrvMemoryEditor::AddStaticMesh(const FOrvMemoryMeshDesc& Mesh)
-{
-    return State->Context.Assets.AddStaticMesh(Mesh);
-}
-
-void FOrvMemoryEditor::AddAsset(const FOrvAssetData& Asset)
-{
-    State->Context.Assets.AddAsset(Asset);
-}
-
-FOrvActorRef FOrvMemoryEditor::AddActor(const FOrvMemoryActorDesc& Actor)
-{
-    FOrvMemoryActor Record;
-    Record.Name = Actor.Name;
-    Record.Label = Actor.Label;
-    Record.ClassName = Actor.ClassName.empty() ? std::string("Actor") : Actor.ClassName;
-    Record.Transform = Actor.Transform;
-    Record.StaticMeshComponents = Actor.StaticMeshComponents;
-    Record.bHasRootComponent = Actor.bHasRootComponent;
-    return State->Context.Level.AddActor(std::move(Record));
-}
-
-void FOrvMemoryEditor::SetViewport(const std::optional<FOrvMemoryViewportDesc>& Viewport)
-{
-    State->Context.Viewport = Viewport;
-}
-
-void FOrvMemoryEditor::SetEditorWorldAvailable(bool bAvailable)
-{
-    State->Context.Level.bWorldAvailable = bAvailable;
-}
-
-void FOrvMemoryEditor::SetMapName(const std::string& MapName)
-{
-    State->Context.Level.MapName = MapName;
-}
-
-std::vector<const FOrvMemoryActor*> FOrvMemoryEditor::GetLevelActors() const
-{
-    const FOrvMemoryLevel& Level = State->Context.Level;
-    std::vector<const FOrvMemoryActor*> Result;
-    Result.reserve(Level.GetOrder().size());
-    for (const FOrvActorRef Ref : Level.GetOrder())
+    struct FOrvMemoryEditor::FState
     {
-        Result.push_back(Level.Find(Ref));
+        FOrvMemoryEditorContext Context;
+        FOrvMemoryWorldPort World{Context};
+        FOrvMemoryLevelEventsPort LevelEvents{Context};
+        FOrvMemoryActorEditingPort Editing{Context};
+        FOrvMemorySelectionPort Selection{Context};
+        FOrvMemoryAssetRegistryPort Assets{Context};
+        FOrvMemoryStaticMeshesPort Meshes{Context};
+        FOrvMemoryViewportPort Viewport{Context};
+    };
+
+    FOrvMemoryEditor::FOrvMemoryEditor() : State(std::make_unique<FState>())
+    {
+        State->Context.Viewport = FOrvMemoryViewportDesc{};
     }
-    return Result;
-}
 
-const FOrvMemoryActor* FOrvMemoryEditor::FindActor(FOrvActorRef Actor) const
-{
-    return State->Context.Level.Find(Actor);
-}
+    FOrvMemoryEditor::~FOrvMemoryEditor() = default;
 
-const FOrvMemoryActor* FOrvMemoryEditor::FindActorByName(const std::string& Name) const
-{
-    return State->Context.Level.FindByName(Name);
-}
+    FOrvMeshRef FOrvMemoryEditor::AddStaticMesh(const FOrvMemoryMeshDesc& Mesh)
+    {
+        return State->Context.Assets.AddStaticMesh(Mesh);
+    }
 
-const FOrvMemoryMeshDesc* FOrvMemoryEditor::FindMesh(FOrvMeshRef Mesh) const
-{
-    return State->Context.Assets.FindMesh(Mesh);
-}
+    void FOrvMemoryEditor::AddAsset(const FOrvAssetData& Asset)
+    {
+        State->Context.Assets.AddAsset(Asset);
+    }
 
-std::vector<FOrvMemoryMeshDesc> FOrvMemoryEditor::GetMeshes() const
-{
-    return State->Context.Assets.GetMeshes();
-}
+    FOrvActorRef FOrvMemoryEditor::AddActor(const FOrvMemoryActorDesc& Actor)
+    {
+        FOrvMemoryActor Record;
+        Record.Name = Actor.Name;
+        Record.Label = Actor.Label;
+        Record.ClassName = Actor.ClassName.empty() ? std::string("Actor") : Actor.ClassName;
+        Record.Transform = Actor.Transform;
+        Record.StaticMeshComponents = Actor.StaticMeshComponents;
+        Record.bHasRootComponent = Actor.bHasRootComponent;
+        return State->Context.Level.AddActor(std::move(Record));
+    }
 
-std::vector<FOrvAssetData> FOrvMemoryEditor::GetNonMeshAssets() const
-{
-    return State->Context.Assets.GetNonMeshAssets();
-}
+    void FOrvMemoryEditor::SetViewport(const std::optional<FOrvMemoryViewportDesc>& Viewport)
+    {
+        State->Context.Viewport = Viewport;
+    }
 
-std::vector<FOrvAssetData> FOrvMemoryEditor::GetRegisteredAssets() const
-{
-    return State->Context.Assets.GetRegisteredAssets();
-}
+    void FOrvMemoryEditor::SetEditorWorldAvailable(bool bAvailable)
+    {
+        State->Context.Level.bWorldAvailable = bAvailable;
+    }
 
-std::optional<FOrvMemoryViewportDesc> FOrvMemoryEditor::GetViewport() const
-{
-    return State->Context.Viewport;
-}
+    void FOrvMemoryEditor::SetMapName(const std::string& MapName)
+    {
+        State->Context.Level.MapName = MapName;
+    }
 
-std::vector<FOrvActorRef> FOrvMemoryEditor::GetSelectedActors() const
-{
-    return State->Context.Level.GetSelection();
-}
+    std::vector<const FOrvMemoryActor*> FOrvMemoryEditor::GetLevelActors() const
+    {
+        const FOrvMemoryLevel& Level = State->Context.Level;
+        std::vector<const FOrvMemoryActor*> Result;
+        Result.reserve(Level.GetOrder().size());
+        for (const FOrvActorRef Ref : Level.GetOrder())
+        {
+            Result.push_back(Level.Find(Ref));
+        }
+        return Result;
+    }
 
-int FOrvMemoryEditor::GetSelectionChangeNotifications() const
-{
-    return State->Context.Level.GetSelectionNotifications();
-}
+    const FOrvMemoryActor* FOrvMemoryEditor::FindActor(FOrvActorRef Actor) const
+    {
+        return State->Context.Level.Find(Actor);
+    }
 
-std::string FOrvMemoryEditor::GetMapName() const
-{
-    return State->Context.Level.MapName;
-}
+    const FOrvMemoryActor* FOrvMemoryEditor::FindActorByName(const std::string& Name) const
+    {
+        return State->Context.Level.FindByName(Name);
+    }
 
-bool FOrvMemoryEditor::IsEditorWorldAvailable() const
-{
-    return State->Context.Level.bWorldAvailable;
-}
+    const FOrvMemoryMeshDesc* FOrvMemoryEditor::FindMesh(FOrvMeshRef Mesh) const
+    {
+        return State->Context.Assets.FindMesh(Mesh);
+    }
 
-bool FOrvMemoryEditor::Undo()
-{
-    return State->Context.UndoBuffer.Undo();
-}
+    std::vector<FOrvMemoryMeshDesc> FOrvMemoryEditor::GetMeshes() const
+    {
+        return State->Context.Assets.GetMeshes();
+    }
 
-bool FOrvMemoryEditor::Redo()
-{
-    return State->Context.UndoBuffer.Redo();
-}
+    std::vector<FOrvAssetData> FOrvMemoryEditor::GetNonMeshAssets() const
+    {
+        return State->Context.Assets.GetNonMeshAssets();
+    }
 
-std::vector<FOrvMemoryHistoryEntry> FOrvMemoryEditor::GetUndoHistory() const
-{
-    return State->Context.UndoBuffer.GetUndoHistory();
-}
+    std::vector<FOrvAssetData> FOrvMemoryEditor::GetRegisteredAssets() const
+    {
+        return State->Context.Assets.GetRegisteredAssets();
+    }
 
-std::vector<FOrvMemoryHistoryEntry> FOrvMemoryEditor::GetRedoHistory() const
-{
-    return State->Context.UndoBuffer.GetRedoHistory();
-}
+    std::optional<FOrvMemoryViewportDesc> FOrvMemoryEditor::GetViewport() const
+    {
+        return State->Context.Viewport;
+    }
 
-bool FOrvMemoryEditor::IsDirty() const
-{
-    return State->Context.Level.bDirty;
-}
+    std::vector<FOrvActorRef> FOrvMemoryEditor::GetSelectedActors() const
+    {
+        return State->Context.Level.GetSelection();
+    }
 
-void FOrvMemoryEditor::MarkClean()
-{
-    State->Context.Level.bDirty = false;
-}
+    int FOrvMemoryEditor::GetSelectionChangeNotifications() const
+    {
+        return State->Context.Level.GetSelectionNotifications();
+    }
 
-IOrvEditorWorld& FOrvMemoryEditor::World()
-{
-    return State->World;
-}
+    std::string FOrvMemoryEditor::GetMapName() const
+    {
+        return State->Context.Level.MapName;
+    }
 
-IOrvLevelEvents& FOrvMemoryEditor::LevelEvents()
-{
-    return State->LevelEvents;
-}
+    bool FOrvMemoryEditor::IsEditorWorldAvailable() const
+    {
+        return State->Context.Level.bWorldAvailable;
+    }
 
-IOrvActorEditing& FOrvMemoryEditor::Editing()
-{
-    return State->Editing;
-}
+    bool FOrvMemoryEditor::Undo()
+    {
+        return State->Context.UndoBuffer.Undo();
+    }
 
-IOrvEditorSelection& FOrvMemoryEditor::Selection()
-{
-    return State->Selection;
-}
+    bool FOrvMemoryEditor::Redo()
+    {
+        return State->Context.UndoBuffer.Redo();
+    }
 
-IOrvTransactions& FOrvMemoryEditor::Transactions()
-{
-    return State->Context.UndoBuffer;
-}
+    std::vector<FOrvMemoryHistoryEntry> FOrvMemoryEditor::GetUndoHistory() const
+    {
+        return State->Context.UndoBuffer.GetUndoHistory();
+    }
 
-IOrvAssetRegistry& FOrvMemoryEditor::Assets()
-{
-    return State->Assets;
-}
+    std::vector<FOrvMemoryHistoryEntry> FOrvMemoryEditor::GetRedoHistory() const
+    {
+        return State->Context.UndoBuffer.GetRedoHistory();
+    }
 
-IOrvStaticMeshes& FOrvMemoryEditor::Meshes()
-{
-    return State->Meshes;
-}
+    bool FOrvMemoryEditor::IsDirty() const
+    {
+        return State->Context.Level.bDirty;
+    }
 
-IOrvViewport& FOrvMemoryEditor::Viewport()
-{
-    return State->Viewport;
-}
+    void FOrvMemoryEditor::MarkClean()
+    {
+        State->Context.Level.bDirty = false;
+    }
+
+    IOrvEditorWorld& FOrvMemoryEditor::World()
+    {
+        return State->World;
+    }
+
+    IOrvLevelEvents& FOrvMemoryEditor::LevelEvents()
+    {
+        return State->LevelEvents;
+    }
+
+    IOrvActorEditing& FOrvMemoryEditor::Editing()
+    {
+        return State->Editing;
+    }
+
+    IOrvEditorSelection& FOrvMemoryEditor::Selection()
+    {
+        return State->Selection;
+    }
+
+    IOrvTransactions& FOrvMemoryEditor::Transactions()
+    {
+        return State->Context.UndoBuffer;
+    }
+
+    IOrvAssetRegistry& FOrvMemoryEditor::Assets()
+    {
+        return State->Assets;
+    }
+
+    IOrvStaticMeshes& FOrvMemoryEditor::Meshes()
+    {
+        return State->Meshes;
+    }
+
+    IOrvViewport& FOrvMemoryEditor::Viewport()
+    {
+        return State->Viewport;
+    }
+} // namespace OrvWebBridge

@@ -13,118 +13,122 @@
 #include <string>
 #include <vector>
 
-/** @brief A static mesh asset to add to the in-memory project. */
-struct FOrvMemoryMeshDesc
+namespace OrvWebBridge
 {
-    std::string PackageName; ///< "/Game/ORVESSA/Brand/Meshes/SM_Chair"; the asset name is its last part
-    FOrvBox Bounds;          ///< local box, pivot at the origin, centimetres
-    std::optional<FOrvProductTag> Tag;
-};
+    /** @brief A static mesh asset to add to the in-memory project. */
+    struct FOrvMemoryMeshDesc
+    {
+        std::string PackageName; ///< "/Game/ORVESSA/Brand/Meshes/SM_Chair"; the asset name is its last part
+        FOrvBox Bounds;          ///< local box, pivot at the origin, centimetres
+        std::optional<FOrvProductTag> Tag;
+    };
 
-/** @brief An actor to place in the in-memory level. */
-struct FOrvMemoryActorDesc
-{
-    std::string Name;  ///< object name; empty: the next free "<Class>_<N>"
-    std::string Label; ///< editor label; empty: the object name
-    std::string ClassName = "StaticMeshActor";
-    FOrvTransform Transform;
-    std::vector<FOrvMeshRef> StaticMeshComponents; ///< one per component, in order; null = no mesh
-    bool bHasRootComponent = true;
-};
+    /** @brief An actor to place in the in-memory level. */
+    struct FOrvMemoryActorDesc
+    {
+        std::string Name;  ///< object name; empty: the next free "<Class>_<N>"
+        std::string Label; ///< editor label; empty: the object name
+        std::string ClassName = "StaticMeshActor";
+        FOrvTransform Transform;
+        std::vector<FOrvMeshRef> StaticMeshComponents; ///< one per component, in order; null = no mesh
+        bool bHasRootComponent = true;
+    };
 
-/** @brief The editor camera and viewport of the in-memory editor. */
-struct FOrvMemoryViewportDesc
-{
-    bool bPerspective = true;
-    FOrvTransform PerspectiveView;
-    FOrvTransform OrthographicView;
-    double FieldOfView = 90.0;
-    FOrvIntPoint Size{1280, 720};
-    double OrthoWidth = 2000.0; ///< world width across the orthographic view, centimetres
-};
+    /** @brief The editor camera and viewport of the in-memory editor. */
+    struct FOrvMemoryViewportDesc
+    {
+        bool bPerspective = true;
+        FOrvTransform PerspectiveView;
+        FOrvTransform OrthographicView;
+        double FieldOfView = 90.0;
+        FOrvIntPoint Size{1280, 720};
+        double OrthoWidth = 2000.0; ///< world width across the orthographic view, centimetres
+    };
 
-/** @brief One actor as the in-memory level holds it. */
-struct FOrvMemoryActor
-{
-    FOrvActorRef Ref;
-    std::string Name;
-    std::string Label;
-    std::string ClassName;
-    FOrvTransform Transform;
-    std::vector<FOrvMeshRef> StaticMeshComponents;
-    bool bHasRootComponent = true;
-    bool bTemporarilyHidden = false;
-};
+    /** @brief One actor as the in-memory level holds it. */
+    struct FOrvMemoryActor
+    {
+        FOrvActorRef Ref;
+        std::string Name;
+        std::string Label;
+        std::string ClassName;
+        FOrvTransform Transform;
+        std::vector<FOrvMeshRef> StaticMeshComponents;
+        bool bHasRootComponent = true;
+        bool bTemporarilyHidden = false;
+    };
 
-/** @brief One undo step as the history shows it. */
-struct FOrvMemoryHistoryEntry
-{
-    std::string Description;
-};
+    /** @brief One undo step as the history shows it. */
+    struct FOrvMemoryHistoryEntry
+    {
+        std::string Description;
+    };
 
-/**
- * @brief A real editor held in memory: a level of actors, static mesh assets with product tags, an
- * asset registry, a camera and viewport, the selection, and transactions with undo and redo.
- * It implements every editor port the core uses; the core reaches it only through them.
- *
- * Engine behaviour it keeps: actors iterate in insertion order; spawned actors are named
- * "StaticMeshActor_N" with N above every number used this session (never reused after deletes);
- * labels are free text. Actor-spawned and actor-destroyed handlers fire whenever an actor enters or
- * leaves the level: spawn, destroy, AddActor, and undo/redo that brings one back or takes it away.
- * Without an editor world (SetEditorWorldAvailable(false)) the world ports answer empty and refuse
- * changes; the viewport and the asset registry do not depend on the world. A new editor has an empty
- * level named "Untitled" and a default perspective viewport (FOrvMemoryViewportDesc{}).
- */
-class FOrvMemoryEditor
-{
-public:
-    FOrvMemoryEditor();
-    ~FOrvMemoryEditor();
-    FOrvMemoryEditor(const FOrvMemoryEditor&) = delete;
-    FOrvMemoryEditor& operator=(const FOrvMemoryEditor&) = delete;
+    /**
+     * @brief A real editor held in memory: a level of actors, static mesh assets with product tags, an
+     * asset registry, a camera and viewport, the selection, and transactions with undo and redo.
+     * It implements every editor port the core uses; the core reaches it only through them.
+     *
+     * Engine behaviour it keeps: actors iterate in insertion order; spawned actors are named
+     * "StaticMeshActor_N" with N above every number used this session (never reused after deletes);
+     * labels are free text. Actor-spawned and actor-destroyed handlers fire whenever an actor enters or
+     * leaves the level: spawn, destroy, AddActor, and undo/redo that brings one back or takes it away.
+     * Without an editor world (SetEditorWorldAvailable(false)) the world ports answer empty and refuse
+     * changes; the viewport and the asset registry do not depend on the world. A new editor has an empty
+     * level named "Untitled" and a default perspective viewport (FOrvMemoryViewportDesc{}).
+     */
+    class FOrvMemoryEditor
+    {
+    public:
+        FOrvMemoryEditor();
+        ~FOrvMemoryEditor();
+        FOrvMemoryEditor(const FOrvMemoryEditor&) = delete;
+        FOrvMemoryEditor& operator=(const FOrvMemoryEditor&) = delete;
 
-    // Building the project and level (scene files, demo scene, tests). Not undoable.
-    FOrvMeshRef AddStaticMesh(const FOrvMemoryMeshDesc& Mesh);
-    void AddAsset(const FOrvAssetData& Asset); ///< a non-mesh asset (material, texture) for the registry
-    FOrvActorRef AddActor(const FOrvMemoryActorDesc& Actor); ///< null when the name is taken this session
-    void SetViewport(const std::optional<FOrvMemoryViewportDesc>& Viewport); ///< nothing: no viewport open
-    void SetEditorWorldAvailable(bool bAvailable);                           ///< false: no editor world
-    void SetMapName(const std::string& MapName);
+        // Building the project and level (scene files, demo scene, tests). Not undoable.
+        FOrvMeshRef AddStaticMesh(const FOrvMemoryMeshDesc& Mesh);
+        void AddAsset(const FOrvAssetData& Asset); ///< a non-mesh asset (material, texture) for the registry
+        FOrvActorRef AddActor(const FOrvMemoryActorDesc& Actor); ///< null when the name is taken this session
+        void
+        SetViewport(const std::optional<FOrvMemoryViewportDesc>& Viewport); ///< nothing: no viewport open
+        void SetEditorWorldAvailable(bool bAvailable);                      ///< false: no editor world
+        void SetMapName(const std::string& MapName);
 
-    // Reading back (console, scene saving, tests).
-    std::vector<const FOrvMemoryActor*> GetLevelActors() const; ///< in iterator order
-    const FOrvMemoryActor* FindActor(FOrvActorRef Actor) const;
-    const FOrvMemoryActor* FindActorByName(const std::string& Name) const; ///< exact name
-    const FOrvMemoryMeshDesc*
-    FindMesh(FOrvMeshRef Mesh) const;                  ///< null for a ref the editor did not hand out
-    std::vector<FOrvMemoryMeshDesc> GetMeshes() const; ///< in registration order
-    std::vector<FOrvAssetData> GetNonMeshAssets() const;
-    std::vector<FOrvAssetData> GetRegisteredAssets() const; ///< meshes and others, in registry order
-    std::optional<FOrvMemoryViewportDesc> GetViewport() const;
-    std::vector<FOrvActorRef> GetSelectedActors() const;
-    int GetSelectionChangeNotifications() const; ///< how often NoteSelectionChange was called
-    std::string GetMapName() const;
-    bool IsEditorWorldAvailable() const;
+        // Reading back (console, scene saving, tests).
+        std::vector<const FOrvMemoryActor*> GetLevelActors() const; ///< in iterator order
+        const FOrvMemoryActor* FindActor(FOrvActorRef Actor) const;
+        const FOrvMemoryActor* FindActorByName(const std::string& Name) const; ///< exact name
+        const FOrvMemoryMeshDesc*
+        FindMesh(FOrvMeshRef Mesh) const;                  ///< null for a ref the editor did not hand out
+        std::vector<FOrvMemoryMeshDesc> GetMeshes() const; ///< in registration order
+        std::vector<FOrvAssetData> GetNonMeshAssets() const;
+        std::vector<FOrvAssetData> GetRegisteredAssets() const; ///< meshes and others, in registry order
+        std::optional<FOrvMemoryViewportDesc> GetViewport() const;
+        std::vector<FOrvActorRef> GetSelectedActors() const;
+        int GetSelectionChangeNotifications() const; ///< how often NoteSelectionChange was called
+        std::string GetMapName() const;
+        bool IsEditorWorldAvailable() const;
 
-    // Undo buffer.
-    bool Undo();                                                ///< false when there is nothing to undo
-    bool Redo();                                                ///< false when there is nothing to redo
-    std::vector<FOrvMemoryHistoryEntry> GetUndoHistory() const; ///< oldest first
-    std::vector<FOrvMemoryHistoryEntry> GetRedoHistory() const; ///< next redo last
-    bool IsDirty() const;                                       ///< changed since MarkClean
-    void MarkClean();
+        // Undo buffer.
+        bool Undo();                                                ///< false when there is nothing to undo
+        bool Redo();                                                ///< false when there is nothing to redo
+        std::vector<FOrvMemoryHistoryEntry> GetUndoHistory() const; ///< oldest first
+        std::vector<FOrvMemoryHistoryEntry> GetRedoHistory() const; ///< next redo last
+        bool IsDirty() const;                                       ///< changed since MarkClean
+        void MarkClean();
 
-    // The ports.
-    IOrvEditorWorld& World();
-    IOrvLevelEvents& LevelEvents();
-    IOrvActorEditing& Editing();
-    IOrvEditorSelection& Selection();
-    IOrvTransactions& Transactions();
-    IOrvAssetRegistry& Assets();
-    IOrvStaticMeshes& Meshes();
-    IOrvViewport& Viewport();
+        // The ports.
+        IOrvEditorWorld& World();
+        IOrvLevelEvents& LevelEvents();
+        IOrvActorEditing& Editing();
+        IOrvEditorSelection& Selection();
+        IOrvTransactions& Transactions();
+        IOrvAssetRegistry& Assets();
+        IOrvStaticMeshes& Meshes();
+        IOrvViewport& Viewport();
 
-private:
-    struct FState;
-    std::unique_ptr<FState> State;
-};
+    private:
+        struct FState;
+        std::unique_ptr<FState> State;
+    };
+} // namespace OrvWebBridge

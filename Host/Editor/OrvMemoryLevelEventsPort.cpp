@@ -1,19 +1,22 @@
 #include "Host/Editor/OrvMemoryEditorPorts.h"
 
-FOrvActorEventsHandle FOrvMemoryLevelEventsPort::AddActorHandlers(FOrvActorEvent OnSpawned,
-                                                                  FOrvActorEvent OnDestroyed)
+namespace OrvWebBridge
 {
-    if (!Context.Level.bWorldAvailable)
+    FOrvActorEventsHandle FOrvMemoryLevelEventsPort::AddActorHandlers(FOrvActorEvent OnSpawned,
+                                                                      FOrvActorEvent OnDestroyed)
     {
-        return {};
+        if (!Context.Level.bWorldAvailable)
+        {
+            return {};
+        }
+        return FOrvActorEventsHandle{Context.Level.AddHandlers(std::move(OnSpawned), std::move(OnDestroyed))};
     }
-    return FOrvActorEventsHandle{Context.Level.AddHandlers(std::move(OnSpawned), std::move(OnDestroyed))};
-}
 
-void FOrvMemoryLevelEventsPort::RemoveActorHandlers(FOrvActorEventsHandle Handle)
-{
-    if (Handle.IsValid())
+    void FOrvMemoryLevelEventsPort::RemoveActorHandlers(FOrvActorEventsHandle Handle)
     {
-        Context.Level.RemoveHandlers(Handle.Value);
+        if (Handle.IsValid())
+        {
+            Context.Level.RemoveHandlers(Handle.Value);
+        }
     }
-}
+} // namespace OrvWebBridge

@@ -1,20 +1,23 @@
 #include "Host/Editor/OrvMemoryEditorPorts.h"
 
-void FOrvMemorySelectionPort::SelectNone()
+namespace OrvWebBridge
 {
-    Context.Level.SelectNone();
-}
-
-void FOrvMemorySelectionPort::SelectActor(FOrvActorRef Actor)
-{
-    // Hidden actors are selected too: the adapter passes bSelectEvenIfHidden.
-    if (Context.Level.bWorldAvailable)
+    void FOrvMemorySelectionPort::SelectNone()
     {
-        Context.Level.Select(Actor);
+        Context.Level.SelectNone();
     }
-}
 
-void FOrvMemorySelectionPort::NoteSelectionChange()
-{
-    Context.Level.NoteSelectionChange();
-}
+    void FOrvMemorySelectionPort::SelectActor(FOrvActorRef Actor)
+    {
+        // Hidden actors are selected too: the adapter passes bSelectEvenIfHidden.
+        if (Context.Level.bWorldAvailable)
+        {
+            Context.Level.Select(Actor);
+        }
+    }
+
+    void FOrvMemorySelectionPort::NoteSelectionChange()
+    {
+        Context.Level.NoteSelectionChange();
+    }
+} // namespace OrvWebBridge

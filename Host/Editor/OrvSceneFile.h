@@ -2,28 +2,31 @@
 
 #include <string>
 
-class FOrvMemoryEditor;
-
-/** @brief Outcome of loading or saving a scene file; Error names the file, the place and the problem. */
-struct FOrvSceneFileResult
+namespace OrvWebBridge
 {
-    bool bOk = false;
-    std::string Error; ///< e.g. "room.json: actors[2].location: expected an array of 3 numbers"
-};
+    class FOrvMemoryEditor;
 
-/** @brief The JSON scene file format of the host (see Docs/SceneFormat.md). */
-struct FOrvSceneFile
-{
-    /** Loads a scene file into an empty editor; on failure the editor must be discarded. */
-    static FOrvSceneFileResult Load(const std::string& FilePath, FOrvMemoryEditor& Editor);
+    /** @brief Outcome of loading or saving a scene file; Error names the file, the place and the problem. */
+    struct FOrvSceneFileResult
+    {
+        bool bOk = false;
+        std::string Error; ///< e.g. "room.json: actors[2].location: expected an array of 3 numbers"
+    };
 
-    /** Loads scene JSON text; SourceName stands for the file in error messages. */
-    static FOrvSceneFileResult LoadText(const std::string& Text, const std::string& SourceName,
-                                        FOrvMemoryEditor& Editor);
+    /** @brief The JSON scene file format of the host (see Docs/SceneFormat.md). */
+    struct FOrvSceneFile
+    {
+        /** Loads a scene file into an empty editor; on failure the editor must be discarded. */
+        static FOrvSceneFileResult Load(const std::string& FilePath, FOrvMemoryEditor& Editor);
 
-    /** The editor's current project and level as scene JSON text. */
-    static std::string SaveText(const FOrvMemoryEditor& Editor);
+        /** Loads scene JSON text; SourceName stands for the file in error messages. */
+        static FOrvSceneFileResult LoadText(const std::string& Text, const std::string& SourceName,
+                                            FOrvMemoryEditor& Editor);
 
-    /** Writes SaveText to a file (through a temporary file, so a failed write loses nothing). */
-    static FOrvSceneFileResult Save(const FOrvMemoryEditor& Editor, const std::string& FilePath);
-};
+        /** The editor's current project and level as scene JSON text. */
+        static std::string SaveText(const FOrvMemoryEditor& Editor);
+
+        /** Writes SaveText to a file (through a temporary file, so a failed write loses nothing). */
+        static FOrvSceneFileResult Save(const FOrvMemoryEditor& Editor, const std::string& FilePath);
+    };
+} // namespace OrvWebBridge

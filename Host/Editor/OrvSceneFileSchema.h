@@ -2,12 +2,15 @@
 
 #include <string_view>
 
-/** @brief Constants of the scene file format that its reader and writer share. */
-struct FOrvSceneFileSchema
+namespace OrvWebBridge
 {
-    static constexpr int Version = 1;
-    static constexpr std::string_view DefaultMapName = "Untitled";
-    static constexpr std::string_view StaticMeshClassPath = "/Script/Engine.StaticMesh";
-    static constexpr std::string_view StaticMeshActorClass = "StaticMeshActor";
-    static constexpr int MaxViewportSide = 16384;
-};
+    /** @brief Constants of the scene file format that its reader and writer share. */
+    struct FOrvSceneFileSchema
+    {
+        static constexpr int Version = 1;
+        static constexpr std::string_view DefaultMapName = "Untitled";
+        static constexpr std::string_view StaticMeshClassPath = "/Script/Engine.StaticMesh";
+        static constexpr std::string_view StaticMeshActorClass = "StaticMeshActor";
+        static constexpr int MaxViewportSide = 16384;
+    };
+} // namespace OrvWebBridge

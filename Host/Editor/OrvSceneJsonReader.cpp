@@ -5,105 +5,108 @@
 #include <algorithm>
 #include <unordered_set>
 
-bool FOrvSceneJsonReader::Fail(const std::string& Place, const std::string& Problem)
+namespace OrvWebBridge
 {
-    Error = SourceName + ": " + (Place.empty() ? "" : Place + ": ") + Problem;
-    return false;
-}
-
-bool FOrvSceneJsonReader::CheckObject(const rapidjson::Value& Value, const std::string& Place,
-                                      std::initializer_list<std::string_view> Allowed)
-{
-    if (!Value.IsObject())
+    bool FOrvSceneJsonReader::Fail(const std::string& Place, const std::string& Problem)
     {
-        return Fail(Place, "expected an object");
+        Error = SourceName + ": " + (Place.empty() ? "" : Place + ": ") + Problem;
+        return false;
     }
-    std::unordered_set<std::string_view> Seen;
-    for (auto It = Value.MemberBegin(); It != Value.MemberEnd(); ++It)
-    {
-        const std::string_view Key = FOrvJson::View(It->name);
-        if (std::find(Allowed.begin(), Allowed.end(), Key) == Allowed.end())
-        {
-            return Fail(Place, "unknown key " + Quoted(Key));
-        }
-        if (!Seen.insert(Key).second)
-        {
-            return Fail(Place, "key " + Quoted(Key) + " appears twice");
-        }
-    }
-    return true;
-}
 
-template <typename TValue, typename TIsType, typename TGet>
-bool FOrvSceneJsonReader::ReadScalar(const rapidjson::Value& Object, std::string_view Key,
-                                     const std::string& Place, TValue& Out, TIsType IsType, TGet Get,
-                                     const char* Expected)
-{
-    const rapidjson::Value* Field = FOrvJson::FindField(Object, Key);
-    if (!Field)
+    bool FOrvSceneJsonReader::CheckObject(const rapidjson::Value& Value, const std::string& Place,
+                                          std::initializer_list<std::string_view> Allowed)
     {
+        if (!Value.IsObject())
+        {
+            return Fail(Place, "expected an object");
+        }
+        std::unordered_set<std::string_view> Seen;
+        for (auto It = Value.MemberBegin(); It != Value.MemberEnd(); ++It)
+        {
+            const std::string_view Key = FOrvJson::View(It->name);
+            if (std::find(Allowed.begin(), Allowed.end(), Key) == Allowed.end())
+            {
+                return Fail(Place, "unknown key " + Quoted(Key));
+            }
+            if (!Seen.insert(Key).second)
+            {
+                return Fail(Place, "key " + Quoted(Key) + " appears twice");
+            }
+        }
         return true;
     }
-    if (!IsType(*Field))
+
+    template <typename TValue, typename TIsType, typename TGet>
+    bool FOrvSceneJsonReader::ReadScalar(const rapidjson::Value& Object, std::string_view Key,
+                                         const std::string& Place, TValue& Out, TIsType IsType, TGet Get,
+                                         const char* Expected)
     {
-        return Fail(Join(Place, Key), Expected);
-    }
-    Out = Get(*Field);
-    return true;
-}
-
-bool FOrvSceneJsonReader::ReadString(const rapidjson::Value& Object, std::string_view Key,
-                                     const std::string& Place, std::string& Out)
-{
-    return ReadScalar(
-        Object, Key, Place, Out, [](const rapidjson::Value& Field) { return Field.IsString(); },
-        [](const rapidjson::Value& Field) { return std::string(FOrvJson::View(Field)); },
-        "expected a string");
-}
-
-bool FOrvSceneJsonReader::ReadBool(const rapidjson::Value& Object, std::string_view Key,
-                                   const std::string& Place, bool& bOut)
-{
-    return ReadScalar(
-        Object, Key, Place, bOut, [](const rapidjson::Value& Field) { return Field.IsBool(); },
-        [](const rapidjson::Value& Field) { return Field.GetBool(); }, "expected true or false");
-}
-
-bool FOrvSceneJsonReader::ReadNumber(const rapidjson::Value& Object, std::string_view Key,
-                                     const std::string& Place, double& Out)
-{
-    return ReadScalar(
-        Object, Key, Place, Out, [](const rapidjson::Value& Field) { return Field.IsNumber(); },
-        [](const rapidjson::Value& Field) { return Field.GetDouble(); }, "expected a number");
-}
-
-bool FOrvSceneJsonReader::ReadTriple(const rapidjson::Value& Object, std::string_view Key,
-                                     const std::string& Place, double& OutA, double& OutB, double& OutC)
-{
-    const rapidjson::Value* Field = FOrvJson::FindField(Object, Key);
-    if (!Field)
-    {
+        const rapidjson::Value* Field = FOrvJson::FindField(Object, Key);
+        if (!Field)
+        {
+            return true;
+        }
+        if (!IsType(*Field))
+        {
+            return Fail(Join(Place, Key), Expected);
+        }
+        Out = Get(*Field);
         return true;
     }
-    if (!Field->IsArray() || Field->Size() != 3 || !(*Field)[0].IsNumber() || !(*Field)[1].IsNumber() ||
-        !(*Field)[2].IsNumber())
+
+    bool FOrvSceneJsonReader::ReadString(const rapidjson::Value& Object, std::string_view Key,
+                                         const std::string& Place, std::string& Out)
     {
-        return Fail(Join(Place, Key), "expected an array of 3 numbers");
+        return ReadScalar(
+            Object, Key, Place, Out, [](const rapidjson::Value& Field) { return Field.IsString(); },
+            [](const rapidjson::Value& Field) { return std::string(FOrvJson::View(Field)); },
+            "expected a string");
     }
-    OutA = (*Field)[0].GetDouble();
-    OutB = (*Field)[1].GetDouble();
-    OutC = (*Field)[2].GetDouble();
-    return true;
-}
 
-bool FOrvSceneJsonReader::ReadVector(const rapidjson::Value& Object, std::string_view Key,
-                                     const std::string& Place, FOrvVector& Out)
-{
-    return ReadTriple(Object, Key, Place, Out.X, Out.Y, Out.Z);
-}
+    bool FOrvSceneJsonReader::ReadBool(const rapidjson::Value& Object, std::string_view Key,
+                                       const std::string& Place, bool& bOut)
+    {
+        return ReadScalar(
+            Object, Key, Place, bOut, [](const rapidjson::Value& Field) { return Field.IsBool(); },
+            [](const rapidjson::Value& Field) { return Field.GetBool(); }, "expected true or false");
+    }
 
-bool FOrvSceneJsonReader::ReadRotator(const rapidjson::Value& Object, std::string_view Key,
-                                      const std::string& Place, FOrvRotator& Out)
-{
-    return ReadTriple(Object, Key, Place, Out.Pitch, Out.Yaw, Out.Roll);
-}
+    bool FOrvSceneJsonReader::ReadNumber(const rapidjson::Value& Object, std::string_view Key,
+                                         const std::string& Place, double& Out)
+    {
+        return ReadScalar(
+            Object, Key, Place, Out, [](const rapidjson::Value& Field) { return Field.IsNumber(); },
+            [](const rapidjson::Value& Field) { return Field.GetDouble(); }, "expected a number");
+    }
+
+    bool FOrvSceneJsonReader::ReadTriple(const rapidjson::Value& Object, std::string_view Key,
+                                         const std::string& Place, double& OutA, double& OutB, double& OutC)
+    {
+        const rapidjson::Value* Field = FOrvJson::FindField(Object, Key);
+        if (!Field)
+        {
+            return true;
+        }
+        if (!Field->IsArray() || Field->Size() != 3 || !(*Field)[0].IsNumber() || !(*Field)[1].IsNumber() ||
+            !(*Field)[2].IsNumber())
+        {
+            return Fail(Join(Place, Key), "expected an array of 3 numbers");
+        }
+        OutA = (*Field)[0].GetDouble();
+        OutB = (*Field)[1].GetDouble();
+        OutC = (*Field)[2].GetDouble();
+        return true;
+    }
+
+    bool FOrvSceneJsonReader::ReadVector(const rapidjson::Value& Object, std::string_view Key,
+                                         const std::string& Place, FOrvVector& Out)
+    {
+        return ReadTriple(Object, Key, Place, Out.X, Out.Y, Out.Z);
+    }
+
+    bool FOrvSceneJsonReader::ReadRotator(const rapidjson::Value& Object, std::string_view Key,
+                                          const std::string& Place, FOrvRotator& Out)
+    {
+        return ReadTriple(Object, Key, Place, Out.Pitch, Out.Yaw, Out.Roll);
+    }
+} // namespace OrvWebBridge

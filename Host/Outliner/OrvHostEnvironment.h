@@ -6,19 +6,22 @@
 #include <string>
 #include <string_view>
 
-/** @brief Project facts of the host: the project directory is given, the date is the local one. */
-class FOrvHostEnvironment : public IOrvEnvironment
+namespace OrvWebBridge
 {
-public:
-    explicit FOrvHostEnvironment(std::string InProjectDir = ".") : ProjectDir(std::move(InProjectDir)) {}
+    /** @brief Project facts of the host: the project directory is given, the date is the local one. */
+    class FOrvHostEnvironment : public IOrvEnvironment
+    {
+    public:
+        explicit FOrvHostEnvironment(std::string InProjectDir = ".") : ProjectDir(std::move(InProjectDir)) {}
 
-    std::string GetProjectDir() const override { return ProjectDir; }
+        std::string GetProjectDir() const override { return ProjectDir; }
 
-    /** The host has no plugin manager, so the schedule footer shows the exporter's fallback version. */
-    std::optional<std::string> FindPluginVersion(std::string_view) const override { return std::nullopt; }
+        /** The host has no plugin manager, so the schedule footer shows the exporter's fallback version. */
+        std::optional<std::string> FindPluginVersion(std::string_view) const override { return std::nullopt; }
 
-    std::string GetLocalDate() const override;
+        std::string GetLocalDate() const override;
 
-private:
-    std::string ProjectDir;
-};
+    private:
+        std::string ProjectDir;
+    };
+} // namespace OrvWebBridge

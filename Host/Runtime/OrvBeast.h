@@ -12,18 +12,21 @@
 
 #include <chrono>
 
-namespace OrvBeast
+namespace OrvWebBridge
 {
-    namespace asio = boost::asio;
-    namespace beast = boost::beast;
-    namespace http = boost::beast::http;
-    using tcp = boost::asio::ip::tcp;
-    using FErrorCode = boost::system::error_code;
-
-    /** Seconds as the clock duration that Asio timers and Beast streams take. */
-    inline std::chrono::steady_clock::duration Seconds(double Value)
+    namespace OrvBeast
     {
-        return std::chrono::duration_cast<std::chrono::steady_clock::duration>(
-            std::chrono::duration<double>(Value > 0.0 ? Value : 0.0));
-    }
-} // namespace OrvBeast
+        namespace asio = boost::asio;
+        namespace beast = boost::beast;
+        namespace http = boost::beast::http;
+        using tcp = boost::asio::ip::tcp;
+        using FErrorCode = boost::system::error_code;
+
+        /** Seconds as the clock duration that Asio timers and Beast streams take. */
+        inline std::chrono::steady_clock::duration Seconds(double Value)
+        {
+            return std::chrono::duration_cast<std::chrono::steady_clock::duration>(
+                std::chrono::duration<double>(Value > 0.0 ? Value : 0.0));
+        }
+    } // namespace OrvBeast
+} // namespace OrvWebBridge

@@ -13,72 +13,76 @@
 #include <optional>
 #include <unordered_map>
 
-class FOrvBeastHttpConnection;
-
-/** @brief What the module and its connections share; outlives the module while connections close. */
-struct FOrvBeastHttpShared
+namespace OrvWebBridge
 {
-    explicit FOrvBeastHttpShared(OrvBeast::asio::io_context& InContext, const FOrvHttpServerLimits& InLimits)
-        : Context(InContext), Limits(InLimits)
+    class FOrvBeastHttpConnection;
+
+    /** @brief What the module and its connections share; outlives the module while connections close. */
+    struct FOrvBeastHttpShared
     {
-    }
+        explicit FOrvBeastHttpShared(OrvBeast::asio::io_context& InContext,
+                                     const FOrvHttpServerLimits& InLimits)
+            : Context(InContext), Limits(InLimits)
+        {
+        }
 
-    OrvBeast::asio::io_context& Context;
-    FOrvHttpServerLimits Limits;
-    std::unordered_map<std::uint64_t, std::weak_ptr<FOrvBeastHttpConnection>> Connections;
-    std::uint64_t LastConnectionId = 0;
-};
+        OrvBeast::asio::io_context& Context;
+        FOrvHttpServerLimits Limits;
+        std::unordered_map<std::uint64_t, std::weak_ptr<FOrvBeastHttpConnection>> Connections;
+        std::uint64_t LastConnectionId = 0;
+    };
 
-/**
- * @brief One accepted connection: reads requests one after the other, hands each to its route's handler
- * and writes the answer whenever the handler completes, then reads the next (keep-alive).
- */
-class FOrvBeastHttpConnection : public std::enable_shared_from_this<FOrvBeastHttpConnection>
-{
-public:
-    FOrvBeastHttpConnection(OrvBeast::tcp::socket&& Socket, std::shared_ptr<FOrvHostHttpRouter> InRouter,
-                            std::shared_ptr<FOrvBeastHttpShared> InShared);
-    ~FOrvBeastHttpConnection();
+    /**
+     * @brief One accepted connection: reads requests one after the other, hands each to its route's handler
+     * and writes the answer whenever the handler completes, then reads the next (keep-alive).
+     */
+    class FOrvBeastHttpConnection : public std::enable_shared_from_this<FOrvBeastHttpConnection>
+    {
+    public:
+        FOrvBeastHttpConnection(OrvBeast::tcp::socket&& Socket, std::shared_ptr<FOrvHostHttpRouter> InRouter,
+                                std::shared_ptr<FOrvBeastHttpShared> InShared);
+        ~FOrvBeastHttpConnection();
 
-    /** Registers the connection and starts reading. */
-    void Start();
+        /** Registers the connection and starts reading. */
+        void Start();
 
-    /** Answers 503 and closes: the server has too many connections. */
-    void Refuse();
+        /** Answers 503 and closes: the server has too many connections. */
+        void Refuse();
 
-    /** Closes the socket at once; pending operations end and the connection goes away. */
-    void Close();
+        /** Closes the socket at once; pending operations end and the connection goes away. */
+        void Close();
 
-private:
-    using FResponse = OrvBeast::http::response<OrvBeast::http::string_body>;
+    private:
+        using FResponse = OrvBeast::http::response<OrvBeast::http::string_body>;
 
-    void ReadHeader();
-    void OnHeader(const OrvBeast::FErrorCode& Error);
-    void ReadBody();
-    void OnBody(const OrvBeast::FErrorCode& Error);
-    void Dispatch();
-    FOrvHttpResultCallback MakeCompletion(std::uint64_t Serial);
-    void Complete(std::uint64_t Serial, std::unique_ptr<FOrvHttpResponse> Response);
-    void SendPlain(unsigned Status, std::string_view Text, bool bKeepAlive);
-    void Send(FResponse&& Response);
-    void OnWritten(const OrvBeast::FErrorCode& Error);
-    void LingerAndClose();
-    void Drain();
-    void RejectReadError(const OrvBeast::FErrorCode& Error);
+        void ReadHeader();
+        void OnHeader(const OrvBeast::FErrorCode& Error);
+        void ReadBody();
+        void OnBody(const OrvBeast::FErrorCode& Error);
+        void Dispatch();
+        FOrvHttpResultCallback MakeCompletion(std::uint64_t Serial);
+        void Complete(std::uint64_t Serial, std::unique_ptr<FOrvHttpResponse> Response);
+        void SendPlain(unsigned Status, std::string_view Text, bool bKeepAlive);
+        void Send(FResponse&& Response);
+        void OnWritten(const OrvBeast::FErrorCode& Error);
+        void LingerAndClose();
+        void Drain();
+        void RejectReadError(const OrvBeast::FErrorCode& Error);
 
-    friend struct FOrvPendingReply;
+        friend struct FOrvPendingReply;
 
-    OrvBeast::beast::tcp_stream Stream;
-    OrvBeast::beast::flat_buffer Buffer;
-    std::optional<OrvBeast::http::request_parser<OrvBeast::http::string_body>> Parser;
-    FResponse Response;
-    std::shared_ptr<FOrvHostHttpRouter> Router;
-    std::shared_ptr<FOrvBeastHttpShared> Shared;
-    std::array<char, 4096> Scratch{};
-    std::size_t DrainedBytes = 0;
-    std::uint64_t Id = 0;
-    std::uint64_t RequestSerial = 0;
-    bool bAwaitingHandler = false;
-    bool bKeepAlive = false;
-    bool bClosed = false;
-};
+        OrvBeast::beast::tcp_stream Stream;
+        OrvBeast::beast::flat_buffer Buffer;
+        std::optional<OrvBeast::http::request_parser<OrvBeast::http::string_body>> Parser;
+        FResponse Response;
+        std::shared_ptr<FOrvHostHttpRouter> Router;
+        std::shared_ptr<FOrvBeastHttpShared> Shared;
+        std::array<char, 4096> Scratch{};
+        std::size_t DrainedBytes = 0;
+        std::uint64_t Id = 0;
+        std::uint64_t RequestSerial = 0;
+        bool bAwaitingHandler = false;
+        bool bKeepAlive = false;
+        bool bClosed = false;
+    };
+} // namespace OrvWebBridge

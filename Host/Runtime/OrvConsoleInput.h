@@ -4,30 +4,33 @@
 #include <memory>
 #include <string>
 
-class FOrvHostEventLoop;
-
-/**
- * @brief Reads lines from a file descriptor (standard input) on the event loop, so console commands
- * run on the same thread as HTTP requests and editor work. Works with terminals, pipes and sockets.
- */
-class FOrvConsoleInput
+namespace OrvWebBridge
 {
-public:
-    using FOrvLineHandler = std::function<void(const std::string& Line)>;
+    class FOrvHostEventLoop;
 
-    FOrvConsoleInput(FOrvHostEventLoop& Loop, FOrvLineHandler InOnLine, std::function<void()> InOnEnd);
-    ~FOrvConsoleInput();
-    FOrvConsoleInput(const FOrvConsoleInput&) = delete;
-    FOrvConsoleInput& operator=(const FOrvConsoleInput&) = delete;
+    /**
+     * @brief Reads lines from a file descriptor (standard input) on the event loop, so console commands
+     * run on the same thread as HTTP requests and editor work. Works with terminals, pipes and sockets.
+     */
+    class FOrvConsoleInput
+    {
+    public:
+        using FOrvLineHandler = std::function<void(const std::string& Line)>;
 
-    /** Starts reading Descriptor (a duplicate is read); false when it cannot be waited on (a regular
-     *  file, /dev/null, a closed descriptor). OnEnd runs once at end of input or on a read error. */
-    bool Start(int Descriptor);
+        FOrvConsoleInput(FOrvHostEventLoop& Loop, FOrvLineHandler InOnLine, std::function<void()> InOnEnd);
+        ~FOrvConsoleInput();
+        FOrvConsoleInput(const FOrvConsoleInput&) = delete;
+        FOrvConsoleInput& operator=(const FOrvConsoleInput&) = delete;
 
-    /** Stops reading; no handler runs afterwards. */
-    void Stop();
+        /** Starts reading Descriptor (a duplicate is read); false when it cannot be waited on (a regular
+         *  file, /dev/null, a closed descriptor). OnEnd runs once at end of input or on a read error. */
+        bool Start(int Descriptor);
 
-private:
-    struct FState;
-    std::shared_ptr<FState> State;
-};
+        /** Stops reading; no handler runs afterwards. */
+        void Stop();
+
+    private:
+        struct FState;
+        std::shared_ptr<FState> State;
+    };
+} // namespace OrvWebBridge

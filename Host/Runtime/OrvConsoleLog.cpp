@@ -2,32 +2,36 @@
 
 #include <string>
 
-FOrvConsoleLog::FOrvConsoleLog(bool bInVerbose, std::FILE* InStream) : bVerbose(bInVerbose), Stream(InStream)
+namespace OrvWebBridge
 {
-}
-
-void FOrvConsoleLog::Log(EOrvLogCategory Category, EOrvLogVerbosity Verbosity, std::string_view Message)
-{
-    if (Verbosity == EOrvLogVerbosity::Verbose && !bVerbose)
+    FOrvConsoleLog::FOrvConsoleLog(bool bInVerbose, std::FILE* InStream)
+        : bVerbose(bInVerbose), Stream(InStream)
     {
-        return;
     }
-    const std::string Line = FormatLine(Category, Verbosity, Message) + "\n";
-    std::fwrite(Line.data(), 1, Line.size(), Stream);
-    // Lines must show up at once when the host runs under a test or a pipe.
-    std::fflush(Stream);
-}
 
-std::string FOrvConsoleLog::FormatLine(EOrvLogCategory Category, EOrvLogVerbosity Verbosity,
-                                       std::string_view Message)
-{
-    std::string Line = OrvLogCategoryName(Category);
-    Line += ": ";
-    if (Verbosity != EOrvLogVerbosity::Log)
+    void FOrvConsoleLog::Log(EOrvLogCategory Category, EOrvLogVerbosity Verbosity, std::string_view Message)
     {
-        Line += OrvLogVerbosityName(Verbosity);
+        if (Verbosity == EOrvLogVerbosity::Verbose && !bVerbose)
+        {
+            return;
+        }
+        const std::string Line = FormatLine(Category, Verbosity, Message) + "\n";
+        std::fwrite(Line.data(), 1, Line.size(), Stream);
+        // Lines must show up at once when the host runs under a test or a pipe.
+        std::fflush(Stream);
+    }
+
+    std::string FOrvConsoleLog::FormatLine(EOrvLogCategory Category, EOrvLogVerbosity Verbosity,
+                                           std::string_view Message)
+    {
+        std::string Line = OrvLogCategoryName(Category);
         Line += ": ";
+        if (Verbosity != EOrvLogVerbosity::Log)
+        {
+            Line += OrvLogVerbosityName(Verbosity);
+            Line += ": ";
+        }
+        Line += Message;
+        return Line;
     }
-    Line += Message;
-    return Line;
-}
+} // namespace OrvWebBridge

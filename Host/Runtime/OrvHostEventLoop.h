@@ -11,32 +11,35 @@ namespace boost::asio
     class io_context;
 }
 
-/**
- * @brief The host's game thread: one event loop on which HTTP requests are delivered, queued editor
- * tasks run (on a later turn) and timers fire. Everything of the core runs on the thread calling Run.
- */
-class FOrvHostEventLoop
+namespace OrvWebBridge
 {
-public:
-    FOrvHostEventLoop();
-    ~FOrvHostEventLoop();
-    FOrvHostEventLoop(const FOrvHostEventLoop&) = delete;
-    FOrvHostEventLoop& operator=(const FOrvHostEventLoop&) = delete;
+    /**
+     * @brief The host's game thread: one event loop on which HTTP requests are delivered, queued editor
+     * tasks run (on a later turn) and timers fire. Everything of the core runs on the thread calling Run.
+     */
+    class FOrvHostEventLoop
+    {
+    public:
+        FOrvHostEventLoop();
+        ~FOrvHostEventLoop();
+        FOrvHostEventLoop(const FOrvHostEventLoop&) = delete;
+        FOrvHostEventLoop& operator=(const FOrvHostEventLoop&) = delete;
 
-    IOrvGameThread& GameThread();
-    IOrvTimers& Timers();
-    boost::asio::io_context& Context();
+        IOrvGameThread& GameThread();
+        IOrvTimers& Timers();
+        boost::asio::io_context& Context();
 
-    /** Runs until Stop is called. */
-    void Run();
+        /** Runs until Stop is called. */
+        void Run();
 
-    /** Runs until Done() is true (checked after each handler) or the time is up; false on timeout. */
-    bool RunUntil(const std::function<bool()>& Done, double TimeoutSeconds);
+        /** Runs until Done() is true (checked after each handler) or the time is up; false on timeout. */
+        bool RunUntil(const std::function<bool()>& Done, double TimeoutSeconds);
 
-    /** Makes Run return; callable from a signal handler's posted work or any handler. */
-    void Stop();
+        /** Makes Run return; callable from a signal handler's posted work or any handler. */
+        void Stop();
 
-private:
-    struct FState;
-    std::unique_ptr<FState> State;
-};
+    private:
+        struct FState;
+        std::unique_ptr<FState> State;
+    };
+} // namespace OrvWebBridge

@@ -5,279 +5,283 @@
 #include "Host/Runtime/OrvHostEventLoop.h"
 #include "Host/Runtime/OrvHttpUrl.h"
 
-#include <rapidjson/error/en.h>
+#include "Core/Json/OrvRapidJson.h"
 
 #include <cstdint>
 #include <unordered_map>
 
-using namespace OrvBeast;
-
-namespace
+namespace OrvWebBridge
 {
-    class FOrvCatalogRequest;
-}
+    using namespace OrvBeast;
 
-struct FOrvHttpCatalogApi::FState
-{
-    FState(asio::io_context& InContext, std::string InBaseUrl, FOrvHttpClientLimits InLimits)
-        : Context(InContext), BaseUrl(std::move(InBaseUrl)), Limits(InLimits)
+    namespace
     {
-        Url = FOrvHttpUrl::Parse(BaseUrl, UrlError);
+        class FOrvCatalogRequest;
     }
 
-    asio::io_context& Context;
-    std::string BaseUrl;
-    FOrvHttpClientLimits Limits;
-    std::optional<FOrvHttpUrl> Url;
-    std::string UrlError;
-    FOrvCookieJar Jar;
-    std::string LastError;
-    bool bDestroyed = false;
-    std::uint64_t LastRequestId = 0;
-    std::unordered_map<std::uint64_t, std::weak_ptr<FOrvCatalogRequest>> Active;
-};
-
-namespace
-{
-    /** @brief One POST: resolve, connect, write, read, under one deadline; completes exactly once. */
-    class FOrvCatalogRequest : public std::enable_shared_from_this<FOrvCatalogRequest>
+    struct FOrvHttpCatalogApi::FState
     {
-    public:
-        FOrvCatalogRequest(std::shared_ptr<FOrvHttpCatalogApi::FState> InState, std::string InTarget,
-                           std::string JsonBody, FOrvApiCallback InOnComplete)
-            : State(std::move(InState)), Resolver(State->Context), Stream(State->Context),
-              Deadline(State->Context), Target(std::move(InTarget)), OnComplete(std::move(InOnComplete))
+        FState(asio::io_context& InContext, std::string InBaseUrl, FOrvHttpClientLimits InLimits)
+            : Context(InContext), BaseUrl(std::move(InBaseUrl)), Limits(InLimits)
         {
-            const FOrvHttpUrl& Url = *State->Url;
-            Request.method(http::verb::post);
-            Request.target(Target);
-            Request.version(11);
-            Request.set(http::field::host, Url.HostHeader());
-            Request.set(http::field::content_type, "application/json");
-            Request.set(http::field::accept, "application/json");
-            Request.set(http::field::user_agent, "orv-host/0.6.0");
-            Request.keep_alive(false);
-            const std::string Cookies = State->Jar.CookieHeader(Url.Host, Target);
-            if (!Cookies.empty())
+            Url = FOrvHttpUrl::Parse(BaseUrl, UrlError);
+        }
+
+        asio::io_context& Context;
+        std::string BaseUrl;
+        FOrvHttpClientLimits Limits;
+        std::optional<FOrvHttpUrl> Url;
+        std::string UrlError;
+        FOrvCookieJar Jar;
+        std::string LastError;
+        bool bDestroyed = false;
+        std::uint64_t LastRequestId = 0;
+        std::unordered_map<std::uint64_t, std::weak_ptr<FOrvCatalogRequest>> Active;
+    };
+
+    namespace
+    {
+        /** @brief One POST: resolve, connect, write, read, under one deadline; completes exactly once. */
+        class FOrvCatalogRequest : public std::enable_shared_from_this<FOrvCatalogRequest>
+        {
+        public:
+            FOrvCatalogRequest(std::shared_ptr<FOrvHttpCatalogApi::FState> InState, std::string InTarget,
+                               std::string JsonBody, FOrvApiCallback InOnComplete)
+                : State(std::move(InState)), Resolver(State->Context), Stream(State->Context),
+                  Deadline(State->Context), Target(std::move(InTarget)), OnComplete(std::move(InOnComplete))
             {
-                Request.set(http::field::cookie, Cookies);
+                const FOrvHttpUrl& Url = *State->Url;
+                Request.method(http::verb::post);
+                Request.target(Target);
+                Request.version(11);
+                Request.set(http::field::host, Url.HostHeader());
+                Request.set(http::field::content_type, "application/json");
+                Request.set(http::field::accept, "application/json");
+                Request.set(http::field::user_agent, "orv-host/0.6.0");
+                Request.keep_alive(false);
+                const std::string Cookies = State->Jar.CookieHeader(Url.Host, Target);
+                if (!Cookies.empty())
+                {
+                    Request.set(http::field::cookie, Cookies);
+                }
+                Request.body() = std::move(JsonBody);
+                Request.prepare_payload();
+                Parser.body_limit(State->Limits.MaxAnswerBytes);
             }
-            Request.body() = std::move(JsonBody);
-            Request.prepare_payload();
-            Parser.body_limit(State->Limits.MaxAnswerBytes);
-        }
 
-        void Start()
-        {
-            Id = ++State->LastRequestId;
-            State->Active.emplace(Id, weak_from_this());
-            Deadline.expires_after(Seconds(State->Limits.TimeoutSeconds));
-            Deadline.async_wait(
-                [Self = shared_from_this()](const FErrorCode& Error)
-                {
-                    if (!Error)
-                    {
-                        Self->Fail(
-                            FOrvStrings::Printf("no answer within %g s", Self->State->Limits.TimeoutSeconds));
-                    }
-                });
-            const FOrvHttpUrl& Url = *State->Url;
-            Resolver.async_resolve(
-                Url.Host, std::to_string(Url.Port),
-                [Self = shared_from_this()](const FErrorCode& Error, tcp::resolver::results_type Results)
-                {
-                    if (Error)
-                    {
-                        Self->Fail("cannot resolve the host: " + Error.message());
-                        return;
-                    }
-                    Self->Connect(Results);
-                });
-        }
-
-        /** Ends the request without calling back: the client is going away. */
-        void Abandon()
-        {
-            bFinished = true;
-            Shutdown();
-        }
-
-    private:
-        void Connect(const tcp::resolver::results_type& Results)
-        {
-            Stream.async_connect(
-                Results,
-                [Self = shared_from_this()](const FErrorCode& Error, const tcp::endpoint&)
-                {
-                    if (Error)
-                    {
-                        Self->Fail("cannot connect: " + Error.message());
-                        return;
-                    }
-                    http::async_write(Self->Stream, Self->Request,
-                                      [Self](const FErrorCode& WriteError, std::size_t)
-                                      {
-                                          if (WriteError)
-                                          {
-                                              Self->Fail("cannot send the request: " + WriteError.message());
-                                              return;
-                                          }
-                                          http::async_read(Self->Stream, Self->Buffer, Self->Parser,
-                                                           [Self](const FErrorCode& ReadError, std::size_t)
-                                                           { Self->OnRead(ReadError); });
-                                      });
-                });
-        }
-
-        void OnRead(const FErrorCode& Error)
-        {
-            if (Error)
+            void Start()
             {
-                Fail(Error == http::error::body_limit ? "the answer is larger than the limit"
-                                                      : "cannot read the answer: " + Error.message());
-                return;
+                Id = ++State->LastRequestId;
+                State->Active.emplace(Id, weak_from_this());
+                Deadline.expires_after(Seconds(State->Limits.TimeoutSeconds));
+                Deadline.async_wait(
+                    [Self = shared_from_this()](const FErrorCode& Error)
+                    {
+                        if (!Error)
+                        {
+                            Self->Fail(FOrvStrings::Printf("no answer within %g s",
+                                                           Self->State->Limits.TimeoutSeconds));
+                        }
+                    });
+                const FOrvHttpUrl& Url = *State->Url;
+                Resolver.async_resolve(
+                    Url.Host, std::to_string(Url.Port),
+                    [Self = shared_from_this()](const FErrorCode& Error, tcp::resolver::results_type Results)
+                    {
+                        if (Error)
+                        {
+                            Self->Fail("cannot resolve the host: " + Error.message());
+                            return;
+                        }
+                        Self->Connect(Results);
+                    });
             }
-            const auto& Answer = Parser.get();
-            if (!bFinished)
+
+            /** Ends the request without calling back: the client is going away. */
+            void Abandon()
             {
-                for (const auto& Field : Answer)
-                {
-                    if (Field.name() == http::field::set_cookie)
+                bFinished = true;
+                Shutdown();
+            }
+
+        private:
+            void Connect(const tcp::resolver::results_type& Results)
+            {
+                Stream.async_connect(
+                    Results,
+                    [Self = shared_from_this()](const FErrorCode& Error, const tcp::endpoint&)
                     {
-                        State->Jar.ApplySetCookie(Field.value(), State->Url->Host);
+                        if (Error)
+                        {
+                            Self->Fail("cannot connect: " + Error.message());
+                            return;
+                        }
+                        http::async_write(
+                            Self->Stream, Self->Request,
+                            [Self](const FErrorCode& WriteError, std::size_t)
+                            {
+                                if (WriteError)
+                                {
+                                    Self->Fail("cannot send the request: " + WriteError.message());
+                                    return;
+                                }
+                                http::async_read(Self->Stream, Self->Buffer, Self->Parser,
+                                                 [Self](const FErrorCode& ReadError, std::size_t)
+                                                 { Self->OnRead(ReadError); });
+                            });
+                    });
+            }
+
+            void OnRead(const FErrorCode& Error)
+            {
+                if (Error)
+                {
+                    Fail(Error == http::error::body_limit ? "the answer is larger than the limit"
+                                                          : "cannot read the answer: " + Error.message());
+                    return;
+                }
+                const auto& Answer = Parser.get();
+                if (!bFinished)
+                {
+                    for (const auto& Field : Answer)
+                    {
+                        if (Field.name() == http::field::set_cookie)
+                        {
+                            State->Jar.ApplySetCookie(Field.value(), State->Url->Host);
+                        }
                     }
                 }
+                const unsigned Status = Answer.result_int();
+                if (Status < 200 || Status > 299)
+                {
+                    Fail("the service answered HTTP " + std::to_string(Status));
+                    return;
+                }
+                auto Document = std::make_shared<rapidjson::Document>();
+                Document->Parse(Answer.body().data(), Answer.body().size());
+                if (Document->HasParseError())
+                {
+                    Fail(std::string("the answer is not JSON: ") +
+                         rapidjson::GetParseError_En(Document->GetParseError()));
+                    return;
+                }
+                if (!Document->IsObject())
+                {
+                    Fail("the answer is not a JSON object");
+                    return;
+                }
+                Finish(true, std::move(Document), {});
             }
-            const unsigned Status = Answer.result_int();
-            if (Status < 200 || Status > 299)
-            {
-                Fail("the service answered HTTP " + std::to_string(Status));
-                return;
-            }
-            auto Document = std::make_shared<rapidjson::Document>();
-            Document->Parse(Answer.body().data(), Answer.body().size());
-            if (Document->HasParseError())
-            {
-                Fail(std::string("the answer is not JSON: ") +
-                     rapidjson::GetParseError_En(Document->GetParseError()));
-                return;
-            }
-            if (!Document->IsObject())
-            {
-                Fail("the answer is not a JSON object");
-                return;
-            }
-            Finish(true, std::move(Document), {});
-        }
 
-        void Fail(std::string Why) { Finish(false, nullptr, std::move(Why)); }
+            void Fail(std::string Why) { Finish(false, nullptr, std::move(Why)); }
 
-        void Finish(bool bSuccess, std::shared_ptr<const rapidjson::Document> Answer, std::string Why)
-        {
-            if (bFinished)
+            void Finish(bool bSuccess, std::shared_ptr<const rapidjson::Document> Answer, std::string Why)
             {
-                return;
+                if (bFinished)
+                {
+                    return;
+                }
+                bFinished = true;
+                Shutdown();
+                if (State->bDestroyed)
+                {
+                    return;
+                }
+                State->LastError = bSuccess ? std::string() : Target + ": " + Why;
+                // Called from an I/O completion, so already on the event loop and after Post returned.
+                FOrvApiCallback Callback = std::move(OnComplete);
+                if (Callback)
+                {
+                    Callback(bSuccess, std::move(Answer));
+                }
             }
-            bFinished = true;
-            Shutdown();
-            if (State->bDestroyed)
+
+            void Shutdown()
             {
-                return;
+                Deadline.cancel();
+                Resolver.cancel();
+                FErrorCode Ignored;
+                Stream.socket().shutdown(tcp::socket::shutdown_both, Ignored);
+                Stream.close();
+                State->Active.erase(Id);
             }
-            State->LastError = bSuccess ? std::string() : Target + ": " + Why;
-            // Called from an I/O completion, so already on the event loop and after Post returned.
-            FOrvApiCallback Callback = std::move(OnComplete);
-            if (Callback)
-            {
-                Callback(bSuccess, std::move(Answer));
-            }
-        }
 
-        void Shutdown()
-        {
-            Deadline.cancel();
-            Resolver.cancel();
-            FErrorCode Ignored;
-            Stream.socket().shutdown(tcp::socket::shutdown_both, Ignored);
-            Stream.close();
-            State->Active.erase(Id);
-        }
+            std::shared_ptr<FOrvHttpCatalogApi::FState> State;
+            tcp::resolver Resolver;
+            beast::tcp_stream Stream;
+            asio::steady_timer Deadline;
+            std::string Target;
+            FOrvApiCallback OnComplete;
+            http::request<http::string_body> Request;
+            http::response_parser<http::string_body> Parser;
+            beast::flat_buffer Buffer;
+            std::uint64_t Id = 0;
+            bool bFinished = false;
+        };
+    } // namespace
 
-        std::shared_ptr<FOrvHttpCatalogApi::FState> State;
-        tcp::resolver Resolver;
-        beast::tcp_stream Stream;
-        asio::steady_timer Deadline;
-        std::string Target;
-        FOrvApiCallback OnComplete;
-        http::request<http::string_body> Request;
-        http::response_parser<http::string_body> Parser;
-        beast::flat_buffer Buffer;
-        std::uint64_t Id = 0;
-        bool bFinished = false;
-    };
-} // namespace
-
-FOrvHttpCatalogApi::FOrvHttpCatalogApi(FOrvHostEventLoop& Loop, std::string BaseUrl,
-                                       FOrvHttpClientLimits Limits)
-    : State(std::make_shared<FState>(Loop.Context(), std::move(BaseUrl), Limits))
-{
-}
-
-FOrvHttpCatalogApi::~FOrvHttpCatalogApi()
-{
-    State->bDestroyed = true;
-    std::vector<std::shared_ptr<FOrvCatalogRequest>> Pending;
-    for (const auto& [Id, Weak] : State->Active)
+    FOrvHttpCatalogApi::FOrvHttpCatalogApi(FOrvHostEventLoop& Loop, std::string BaseUrl,
+                                           FOrvHttpClientLimits Limits)
+        : State(std::make_shared<FState>(Loop.Context(), std::move(BaseUrl), Limits))
     {
-        if (auto Request = Weak.lock())
+    }
+
+    FOrvHttpCatalogApi::~FOrvHttpCatalogApi()
+    {
+        State->bDestroyed = true;
+        std::vector<std::shared_ptr<FOrvCatalogRequest>> Pending;
+        for (const auto& [Id, Weak] : State->Active)
         {
-            Pending.push_back(std::move(Request));
+            if (auto Request = Weak.lock())
+            {
+                Pending.push_back(std::move(Request));
+            }
+        }
+        for (const auto& Request : Pending)
+        {
+            Request->Abandon();
         }
     }
-    for (const auto& Request : Pending)
+
+    bool FOrvHttpCatalogApi::IsValidBaseUrl(const std::string& BaseUrl, std::string& Error)
     {
-        Request->Abandon();
+        return FOrvHttpUrl::Parse(BaseUrl, Error).has_value();
     }
-}
 
-bool FOrvHttpCatalogApi::IsValidBaseUrl(const std::string& BaseUrl, std::string& Error)
-{
-    return FOrvHttpUrl::Parse(BaseUrl, Error).has_value();
-}
-
-void FOrvHttpCatalogApi::Post(std::string_view Path, std::string JsonBody, FOrvApiCallback OnComplete)
-{
-    if (!State->Url)
+    void FOrvHttpCatalogApi::Post(std::string_view Path, std::string JsonBody, FOrvApiCallback OnComplete)
     {
-        State->LastError = State->UrlError;
-        // Never inline: the caller may still be setting up what the callback reads.
-        asio::post(State->Context,
-                   [Weak = std::weak_ptr<FState>(State), OnComplete = std::move(OnComplete)]()
-                   {
-                       const auto Alive = Weak.lock();
-                       if (Alive && !Alive->bDestroyed && OnComplete)
+        if (!State->Url)
+        {
+            State->LastError = State->UrlError;
+            // Never inline: the caller may still be setting up what the callback reads.
+            asio::post(State->Context,
+                       [Weak = std::weak_ptr<FState>(State), OnComplete = std::move(OnComplete)]()
                        {
-                           OnComplete(false, nullptr);
-                       }
-                   });
-        return;
+                           const auto Alive = Weak.lock();
+                           if (Alive && !Alive->bDestroyed && OnComplete)
+                           {
+                               OnComplete(false, nullptr);
+                           }
+                       });
+            return;
+        }
+        auto Request = std::make_shared<FOrvCatalogRequest>(State, State->Url->JoinPath(Path),
+                                                            std::move(JsonBody), std::move(OnComplete));
+        Request->Start();
     }
-    auto Request = std::make_shared<FOrvCatalogRequest>(State, State->Url->JoinPath(Path),
-                                                        std::move(JsonBody), std::move(OnComplete));
-    Request->Start();
-}
 
-std::vector<FOrvCookie> FOrvHttpCatalogApi::GetCookies() const
-{
-    return State->Jar.Cookies;
-}
+    std::vector<FOrvCookie> FOrvHttpCatalogApi::GetCookies() const
+    {
+        return State->Jar.Cookies;
+    }
 
-void FOrvHttpCatalogApi::SetCookie(const FOrvCookie& Cookie)
-{
-    State->Jar.Set(Cookie);
-}
+    void FOrvHttpCatalogApi::SetCookie(const FOrvCookie& Cookie)
+    {
+        State->Jar.Set(Cookie);
+    }
 
-std::string FOrvHttpCatalogApi::GetLastError() const
-{
-    return State->LastError;
-}
+    std::string FOrvHttpCatalogApi::GetLastError() const
+    {
+        return State->LastError;
+    }
+} // namespace OrvWebBridge

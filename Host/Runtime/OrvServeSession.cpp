@@ -6,99 +6,102 @@
 #include <csignal>
 #include <unistd.h>
 
-namespace
+namespace OrvWebBridge
 {
-    FOrvMcpPorts MakePorts(FOrvMemoryEditor& Editor, IOrvImageWrapperModule& Images, FOrvHostEventLoop& Loop,
-                           IOrvLog& Log)
+    namespace
     {
-        return FOrvMcpPorts{Editor.World(),  Editor.Editing(),  Editor.Transactions(),
-                            Editor.Assets(), Editor.Meshes(),   Editor.Viewport(),
-                            Images,          Loop.GameThread(), Log};
-    }
-} // namespace
+        FOrvMcpPorts MakePorts(FOrvMemoryEditor& Editor, IOrvImageWrapperModule& Images,
+                               FOrvHostEventLoop& Loop, IOrvLog& Log)
+        {
+            return FOrvMcpPorts{Editor.World(),  Editor.Editing(),  Editor.Transactions(),
+                                Editor.Assets(), Editor.Meshes(),   Editor.Viewport(),
+                                Images,          Loop.GameThread(), Log};
+        }
+    } // namespace
 
-FOrvServeSession::FOrvServeSession(FOrvHostEventLoop& InLoop, FOrvMemoryEditor& InEditor,
-                                   IOrvImageWrapperModule& Images, IOrvLog& InLog, std::string SceneFile)
-    : Loop(InLoop), Editor(InEditor), Log(InLog),
-      Endpoint(InLoop, MakePorts(InEditor, Images, InLoop, InLog), InLog),
-      Console(InEditor, std::move(SceneFile), [this] { Loop.Stop(); }),
-      Input(
-          InLoop, [this](const std::string& Line) { OnConsoleLine(Line); }, [] {})
-{
-}
-
-FOrvServeSession::~FOrvServeSession()
-{
-    // The outliner's panel unregisters from the editor and the loop's timers while both still exist.
-    Outliner.reset();
-}
-
-bool FOrvServeSession::OpenOutliner(const FOrvCatalogSourceOptions& Catalog, std::string& Error)
-{
-    auto Opened = std::make_unique<FOrvServeOutliner>(Loop, Editor, Log);
-    if (!Opened->Open(Catalog, Error))
+    FOrvServeSession::FOrvServeSession(FOrvHostEventLoop& InLoop, FOrvMemoryEditor& InEditor,
+                                       IOrvImageWrapperModule& Images, IOrvLog& InLog, std::string SceneFile)
+        : Loop(InLoop), Editor(InEditor), Log(InLog),
+          Endpoint(InLoop, MakePorts(InEditor, Images, InLoop, InLog), InLog),
+          Console(InEditor, std::move(SceneFile), [this] { Loop.Stop(); }),
+          Input(
+              InLoop, [this](const std::string& Line) { OnConsoleLine(Line); }, [] {})
     {
-        return false;
     }
-    Outliner = std::move(Opened);
-    return true;
-}
 
-bool FOrvServeSession::Start(std::uint32_t Port, std::string& Error)
-{
-    // Output to a closed pipe must fail as a write error, not end the host.
-    std::signal(SIGPIPE, SIG_IGN);
-    if (!Endpoint.Start(Port, Error))
+    FOrvServeSession::~FOrvServeSession()
     {
-        return false;
+        // The outliner's panel unregisters from the editor and the loop's timers while both still exist.
+        Outliner.reset();
     }
-    Signals = std::make_unique<FOrvStopSignals>(Loop, [this](int) { Loop.Stop(); });
-    if (Outliner)
-    {
-        // The first scan starts only once serving is sure, so a busy port ends the run quietly.
-        Outliner->Start(Console);
-    }
-    Print("Serving MCP on " + Endpoint.GetMcpUrl() + "\n");
-    return true;
-}
 
-bool FOrvServeSession::StartConsole(int InputFd)
-{
-    if (!Input.Start(InputFd))
+    bool FOrvServeSession::OpenOutliner(const FOrvCatalogSourceOptions& Catalog, std::string& Error)
     {
-        return false;
+        auto Opened = std::make_unique<FOrvServeOutliner>(Loop, Editor, Log);
+        if (!Opened->Open(Catalog, Error))
+        {
+            return false;
+        }
+        Outliner = std::move(Opened);
+        return true;
     }
-    bPrompt = isatty(InputFd) && isatty(STDOUT_FILENO);
-    Print(std::string("Console ready: type help for the commands.\n") + (bPrompt ? "orv> " : ""));
-    return true;
-}
 
-int FOrvServeSession::Run()
-{
-    Loop.Run();
-    Input.Stop();
-    Signals.reset();
-    Endpoint.Stop();
-    if (Editor.IsDirty())
+    bool FOrvServeSession::Start(std::uint32_t Port, std::string& Error)
     {
-        std::fprintf(stderr, "orv-host: the level's unsaved changes were discarded.\n");
+        // Output to a closed pipe must fail as a write error, not end the host.
+        std::signal(SIGPIPE, SIG_IGN);
+        if (!Endpoint.Start(Port, Error))
+        {
+            return false;
+        }
+        Signals = std::make_unique<FOrvStopSignals>(Loop, [this](int) { Loop.Stop(); });
+        if (Outliner)
+        {
+            // The first scan starts only once serving is sure, so a busy port ends the run quietly.
+            Outliner->Start(Console);
+        }
+        Print("Serving MCP on " + Endpoint.GetMcpUrl() + "\n");
+        return true;
     }
-    return 0;
-}
 
-void FOrvServeSession::OnConsoleLine(const std::string& Line)
-{
-    std::string Text = Console.Execute(Line);
-    if (bPrompt)
+    bool FOrvServeSession::StartConsole(int InputFd)
     {
-        Text += "orv> ";
+        if (!Input.Start(InputFd))
+        {
+            return false;
+        }
+        bPrompt = isatty(InputFd) && isatty(STDOUT_FILENO);
+        Print(std::string("Console ready: type help for the commands.\n") + (bPrompt ? "orv> " : ""));
+        return true;
     }
-    Print(Text);
-}
 
-void FOrvServeSession::Print(const std::string& Text)
-{
-    std::fwrite(Text.data(), 1, Text.size(), stdout);
-    // Tests and other programs read the URL and the console's answers through a pipe.
-    std::fflush(stdout);
-}
+    int FOrvServeSession::Run()
+    {
+        Loop.Run();
+        Input.Stop();
+        Signals.reset();
+        Endpoint.Stop();
+        if (Editor.IsDirty())
+        {
+            std::fprintf(stderr, "orv-host: the level's unsaved changes were discarded.\n");
+        }
+        return 0;
+    }
+
+    void FOrvServeSession::OnConsoleLine(const std::string& Line)
+    {
+        std::string Text = Console.Execute(Line);
+        if (bPrompt)
+        {
+            Text += "orv> ";
+        }
+        Print(Text);
+    }
+
+    void FOrvServeSession::Print(const std::string& Text)
+    {
+        std::fwrite(Text.data(), 1, Text.size(), stdout);
+        // Tests and other programs read the URL and the console's answers through a pipe.
+        std::fflush(stdout);
+    }
+} // namespace OrvWebBridge

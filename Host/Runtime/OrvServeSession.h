@@ -11,50 +11,54 @@
 #include <memory>
 #include <string>
 
-class FOrvHostEventLoop;
-class FOrvMemoryEditor;
-class IOrvImageWrapperModule;
-
-/**
- * @brief One run of "orv-host serve" once the level is loaded: the MCP endpoint, the console on standard
- * input and the stop signals, all on the event loop, until quit, Ctrl+C or SIGTERM.
- */
-class FOrvServeSession
+namespace OrvWebBridge
 {
-public:
-    FOrvServeSession(FOrvHostEventLoop& InLoop, FOrvMemoryEditor& InEditor, IOrvImageWrapperModule& Images,
-                     IOrvLog& InLog, std::string SceneFile);
-    ~FOrvServeSession();
-    FOrvServeSession(const FOrvServeSession&) = delete;
-    FOrvServeSession& operator=(const FOrvServeSession&) = delete;
+    class FOrvHostEventLoop;
+    class FOrvMemoryEditor;
+    class IOrvImageWrapperModule;
 
-    /** Opens the outliner's catalogue source; Start then scans and adds its commands. False with Error. */
-    bool OpenOutliner(const FOrvCatalogSourceOptions& Catalog, std::string& Error);
+    /**
+     * @brief One run of "orv-host serve" once the level is loaded: the MCP endpoint, the console on standard
+     * input and the stop signals, all on the event loop, until quit, Ctrl+C or SIGTERM.
+     */
+    class FOrvServeSession
+    {
+    public:
+        FOrvServeSession(FOrvHostEventLoop& InLoop, FOrvMemoryEditor& InEditor,
+                         IOrvImageWrapperModule& Images, IOrvLog& InLog, std::string SceneFile);
+        ~FOrvServeSession();
+        FOrvServeSession(const FOrvServeSession&) = delete;
+        FOrvServeSession& operator=(const FOrvServeSession&) = delete;
 
-    /** Starts serving on Port and prints the URL line; false with a message for the user in Error. */
-    bool Start(std::uint32_t Port, std::string& Error);
+        /** Opens the outliner's catalogue source; Start then scans and adds its commands. False with Error.
+         */
+        bool OpenOutliner(const FOrvCatalogSourceOptions& Catalog, std::string& Error);
 
-    /** Reads console commands from InputFd (standard input); false when it cannot be read. */
-    bool StartConsole(int InputFd);
+        /** Starts serving on Port and prints the URL line; false with a message for the user in Error. */
+        bool Start(std::uint32_t Port, std::string& Error);
 
-    /** Runs the loop until quit or a stop signal, then stops the endpoint; the exit code. */
-    int Run();
+        /** Reads console commands from InputFd (standard input); false when it cannot be read. */
+        bool StartConsole(int InputFd);
 
-    FOrvServeConsole& GetConsole() { return Console; }
-    FOrvHostMcpEndpoint& GetEndpoint() { return Endpoint; }
-    FOrvServeOutliner* GetOutliner() { return Outliner.get(); }
+        /** Runs the loop until quit or a stop signal, then stops the endpoint; the exit code. */
+        int Run();
 
-private:
-    void OnConsoleLine(const std::string& Line);
-    void Print(const std::string& Text);
+        FOrvServeConsole& GetConsole() { return Console; }
+        FOrvHostMcpEndpoint& GetEndpoint() { return Endpoint; }
+        FOrvServeOutliner* GetOutliner() { return Outliner.get(); }
 
-    FOrvHostEventLoop& Loop;
-    FOrvMemoryEditor& Editor;
-    IOrvLog& Log;
-    FOrvHostMcpEndpoint Endpoint;
-    FOrvServeConsole Console;
-    FOrvConsoleInput Input;
-    std::unique_ptr<FOrvStopSignals> Signals;
-    std::unique_ptr<FOrvServeOutliner> Outliner;
-    bool bPrompt = false;
-};
+    private:
+        void OnConsoleLine(const std::string& Line);
+        void Print(const std::string& Text);
+
+        FOrvHostEventLoop& Loop;
+        FOrvMemoryEditor& Editor;
+        IOrvLog& Log;
+        FOrvHostMcpEndpoint Endpoint;
+        FOrvServeConsole Console;
+        FOrvConsoleInput Input;
+        std::unique_ptr<FOrvStopSignals> Signals;
+        std::unique_ptr<FOrvServeOutliner> Outliner;
+        bool bPrompt = false;
+    };
+} // namespace OrvWebBridge

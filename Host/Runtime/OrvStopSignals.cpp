@@ -8,45 +8,48 @@
 
 #include <csignal>
 
-struct FOrvStopSignals::FState : std::enable_shared_from_this<FOrvStopSignals::FState>
+namespace OrvWebBridge
 {
-    FState(boost::asio::io_context& Context, std::function<void(int)> InOnSignal)
-        : Signals(Context, SIGINT, SIGTERM), OnSignal(std::move(InOnSignal))
+    struct FOrvStopSignals::FState : std::enable_shared_from_this<FOrvStopSignals::FState>
     {
+        FState(boost::asio::io_context& Context, std::function<void(int)> InOnSignal)
+            : Signals(Context, SIGINT, SIGTERM), OnSignal(std::move(InOnSignal))
+        {
+        }
+
+        void Wait()
+        {
+            Signals.async_wait(
+                [Weak = weak_from_this()](const boost::system::error_code& Error, int Signal)
+                {
+                    const auto Self = Weak.lock();
+                    if (Error || !Self)
+                    {
+                        return;
+                    }
+                    if (Self->OnSignal)
+                    {
+                        Self->OnSignal(Signal);
+                    }
+                    Self->Wait();
+                });
+        }
+
+        boost::asio::signal_set Signals;
+        std::function<void(int)> OnSignal;
+    };
+
+    FOrvStopSignals::FOrvStopSignals(FOrvHostEventLoop& Loop, std::function<void(int Signal)> OnSignal)
+        : State(std::make_shared<FState>(Loop.Context(), std::move(OnSignal)))
+    {
+        State->Wait();
     }
 
-    void Wait()
+    FOrvStopSignals::~FOrvStopSignals()
     {
-        Signals.async_wait(
-            [Weak = weak_from_this()](const boost::system::error_code& Error, int Signal)
-            {
-                const auto Self = Weak.lock();
-                if (Error || !Self)
-                {
-                    return;
-                }
-                if (Self->OnSignal)
-                {
-                    Self->OnSignal(Signal);
-                }
-                Self->Wait();
-            });
+        State->OnSignal = nullptr;
+        boost::system::error_code Ignored;
+        State->Signals.cancel(Ignored);
+        State->Signals.clear(Ignored);
     }
-
-    boost::asio::signal_set Signals;
-    std::function<void(int)> OnSignal;
-};
-
-FOrvStopSignals::FOrvStopSignals(FOrvHostEventLoop& Loop, std::function<void(int Signal)> OnSignal)
-    : State(std::make_shared<FState>(Loop.Context(), std::move(OnSignal)))
-{
-    State->Wait();
-}
-
-FOrvStopSignals::~FOrvStopSignals()
-{
-    State->OnSignal = nullptr;
-    boost::system::error_code Ignored;
-    State->Signals.cancel(Ignored);
-    State->Signals.clear(Ignored);
-}
+} // namespace OrvWebBridge

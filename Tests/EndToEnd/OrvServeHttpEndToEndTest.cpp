@@ -5,6 +5,8 @@
 #include <string>
 #include <utility>
 
+using namespace OrvWebBridge;
+
 namespace
 {
     class FOrvServeHttpEndToEndTest : public ::testing::Test

@@ -10,6 +10,8 @@
 #include <utility>
 #include <vector>
 
+using namespace OrvWebBridge;
+
 namespace
 {
     constexpr double ExitTimeoutSeconds = 10.0;

@@ -4,6 +4,8 @@
 
 #include <string>
 
+using namespace OrvWebBridge;
+
 namespace
 {
     /** Asks for the tree until it shows Text; the rescan after a tool change waits for a debounce. */

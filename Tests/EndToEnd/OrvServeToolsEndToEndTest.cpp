@@ -7,6 +7,8 @@
 #include <utility>
 #include <vector>
 
+using namespace OrvWebBridge;
+
 namespace
 {
     constexpr const char* ChairPath = "/Game/ORVESSA/FormaNova/Arco/Meshes/SM_Chair.SM_Chair";

@@ -1,8 +1,7 @@
 #pragma once
 
 // Third-party headers come first, as the engine wraps them between THIRD_PARTY_INCLUDES_START/END.
-#include <rapidjson/document.h>
-#include <rapidjson/error/en.h>
+#include "Core/Json/OrvRapidJson.h"
 
 // Function-like macros and Windows names that the engine's build defines before our headers are
 // seen. A core header that names anything like these fails to compile here before it fails in UBT.

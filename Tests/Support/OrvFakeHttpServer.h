@@ -9,60 +9,63 @@
 #include <string_view>
 #include <vector>
 
-/** @brief What one request sent through the fake router got back, so far. */
-struct FOrvFakeHttpExchange
+namespace OrvWebBridge
 {
-    bool bHandled = false; ///< a route matched and its handler returned true
-    /** Responses passed to the completion; a deferred one lands here after Send returned. */
-    std::shared_ptr<std::vector<FOrvHttpResponse>> Responses =
-        std::make_shared<std::vector<FOrvHttpResponse>>();
-};
-
-/** @brief One port's router: keeps the bound routes and delivers requests to them by hand. */
-class FOrvFakeHttpRouter : public IOrvHttpRouter
-{
-public:
-    struct FRoute
+    /** @brief What one request sent through the fake router got back, so far. */
+    struct FOrvFakeHttpExchange
     {
-        std::string Path;
-        EOrvHttpVerb Verb;
-        FOrvHttpRequestHandler Handler;
-        FOrvHttpRouteHandle Handle;
+        bool bHandled = false; ///< a route matched and its handler returned true
+        /** Responses passed to the completion; a deferred one lands here after Send returned. */
+        std::shared_ptr<std::vector<FOrvHttpResponse>> Responses =
+            std::make_shared<std::vector<FOrvHttpResponse>>();
     };
 
-    FOrvHttpRouteHandle BindRoute(std::string_view Path, EOrvHttpVerb Verb,
-                                  FOrvHttpRequestHandler Handler) override;
-    void UnbindRoute(FOrvHttpRouteHandle Handle) override;
+    /** @brief One port's router: keeps the bound routes and delivers requests to them by hand. */
+    class FOrvFakeHttpRouter : public IOrvHttpRouter
+    {
+    public:
+        struct FRoute
+        {
+            std::string Path;
+            EOrvHttpVerb Verb;
+            FOrvHttpRequestHandler Handler;
+            FOrvHttpRouteHandle Handle;
+        };
 
-    /** Delivers a request to the route bound to its path and verb, as the HTTP server would. */
-    FOrvFakeHttpExchange Send(EOrvHttpVerb Verb, std::string_view Path, std::string Body = {});
+        FOrvHttpRouteHandle BindRoute(std::string_view Path, EOrvHttpVerb Verb,
+                                      FOrvHttpRequestHandler Handler) override;
+        void UnbindRoute(FOrvHttpRouteHandle Handle) override;
 
-    const std::vector<FRoute>& Routes() const { return BoundRoutes; }
+        /** Delivers a request to the route bound to its path and verb, as the HTTP server would. */
+        FOrvFakeHttpExchange Send(EOrvHttpVerb Verb, std::string_view Path, std::string Body = {});
 
-    int UnbindCount = 0;
+        const std::vector<FRoute>& Routes() const { return BoundRoutes; }
 
-private:
-    std::vector<FRoute>::iterator Find(std::string_view Path, EOrvHttpVerb Verb);
+        int UnbindCount = 0;
 
-    std::vector<FRoute> BoundRoutes;
-    std::uint64_t NextHandle = 1;
-};
+    private:
+        std::vector<FRoute>::iterator Find(std::string_view Path, EOrvHttpVerb Verb);
 
-/** @brief The HTTP server module: one fake router per port, listener start/stop counted. */
-class FOrvFakeHttpServerModule : public IOrvHttpServerModule
-{
-public:
-    std::shared_ptr<IOrvHttpRouter> GetHttpRouter(std::uint32_t Port, bool bFailOnBindFailure) override;
-    void StartAllListeners() override { ++StartCount; }
-    void StopAllListeners() override { ++StopCount; }
+        std::vector<FRoute> BoundRoutes;
+        std::uint64_t NextHandle = 1;
+    };
 
-    FOrvFakeHttpRouter* FindRouter(std::uint32_t Port);
+    /** @brief The HTTP server module: one fake router per port, listener start/stop counted. */
+    class FOrvFakeHttpServerModule : public IOrvHttpServerModule
+    {
+    public:
+        std::shared_ptr<IOrvHttpRouter> GetHttpRouter(std::uint32_t Port, bool bFailOnBindFailure) override;
+        void StartAllListeners() override { ++StartCount; }
+        void StopAllListeners() override { ++StopCount; }
 
-    bool bRefuseRouters = false; ///< answer null, as a host whose port cannot be bound does
-    int RouterRequests = 0;
-    int StartCount = 0;
-    int StopCount = 0;
+        FOrvFakeHttpRouter* FindRouter(std::uint32_t Port);
 
-private:
-    std::map<std::uint32_t, std::shared_ptr<FOrvFakeHttpRouter>> Routers;
-};
+        bool bRefuseRouters = false; ///< answer null, as a host whose port cannot be bound does
+        int RouterRequests = 0;
+        int StartCount = 0;
+        int StopCount = 0;
+
+    private:
+        std::map<std::uint32_t, std::shared_ptr<FOrvFakeHttpRouter>> Routers;
+    };
+} // namespace OrvWebBridge

@@ -6,33 +6,36 @@
 #include "Tests/Support/OrvManualGameThread.h"
 #include "Tests/Support/OrvRecordingLog.h"
 
-/**
- * @brief An editor with nothing open: no world, no assets, no viewport, no JPEG encoder. For tests of
- * the MCP plumbing that must not depend on what the tools find; the game thread is pumped by hand.
- */
-class FOrvNullEditorPorts
+namespace OrvWebBridge
 {
-public:
-    FOrvNullEditorPorts()
+    /**
+     * @brief An editor with nothing open: no world, no assets, no viewport, no JPEG encoder. For tests of
+     * the MCP plumbing that must not depend on what the tools find; the game thread is pumped by hand.
+     */
+    class FOrvNullEditorPorts
     {
-        Editor.SetEditorWorldAvailable(false);
-        Editor.SetViewport(std::nullopt);
-        Images.bCreatesWrapper = false;
-    }
-    FOrvNullEditorPorts(const FOrvNullEditorPorts&) = delete;
-    FOrvNullEditorPorts& operator=(const FOrvNullEditorPorts&) = delete;
+    public:
+        FOrvNullEditorPorts()
+        {
+            Editor.SetEditorWorldAvailable(false);
+            Editor.SetViewport(std::nullopt);
+            Images.bCreatesWrapper = false;
+        }
+        FOrvNullEditorPorts(const FOrvNullEditorPorts&) = delete;
+        FOrvNullEditorPorts& operator=(const FOrvNullEditorPorts&) = delete;
 
-    FOrvMcpPorts Ports()
-    {
-        return {Editor.World(),  Editor.Editing(), Editor.Transactions(),
-                Editor.Assets(), Editor.Meshes(),  Editor.Viewport(),
-                Images,          GameThread,       Log};
-    }
+        FOrvMcpPorts Ports()
+        {
+            return {Editor.World(),  Editor.Editing(), Editor.Transactions(),
+                    Editor.Assets(), Editor.Meshes(),  Editor.Viewport(),
+                    Images,          GameThread,       Log};
+        }
 
-    FOrvManualGameThread GameThread;
-    FOrvRecordingLog Log;
+        FOrvManualGameThread GameThread;
+        FOrvRecordingLog Log;
 
-private:
-    FOrvMemoryEditor Editor;
-    FOrvFakeImageWrapperModule Images;
-};
+    private:
+        FOrvMemoryEditor Editor;
+        FOrvFakeImageWrapperModule Images;
+    };
+} // namespace OrvWebBridge

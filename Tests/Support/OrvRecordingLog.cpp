@@ -1,28 +1,31 @@
 #include "Tests/Support/OrvRecordingLog.h"
 
-void FOrvRecordingLog::Log(EOrvLogCategory Category, EOrvLogVerbosity Verbosity, std::string_view Message)
+namespace OrvWebBridge
 {
-    Lines.push_back({Category, Verbosity, std::string(Message)});
-}
-
-bool FOrvRecordingLog::Contains(EOrvLogVerbosity Verbosity, std::string_view Message) const
-{
-    for (const FLine& Line : Lines)
+    void FOrvRecordingLog::Log(EOrvLogCategory Category, EOrvLogVerbosity Verbosity, std::string_view Message)
     {
-        if (Line.Verbosity == Verbosity && Line.Message == Message)
+        Lines.push_back({Category, Verbosity, std::string(Message)});
+    }
+
+    bool FOrvRecordingLog::Contains(EOrvLogVerbosity Verbosity, std::string_view Message) const
+    {
+        for (const FLine& Line : Lines)
         {
-            return true;
+            if (Line.Verbosity == Verbosity && Line.Message == Message)
+            {
+                return true;
+            }
         }
+        return false;
     }
-    return false;
-}
 
-int FOrvRecordingLog::Count(std::string_view Message) const
-{
-    int Found = 0;
-    for (const FLine& Line : Lines)
+    int FOrvRecordingLog::Count(std::string_view Message) const
     {
-        Found += Line.Message == Message ? 1 : 0;
+        int Found = 0;
+        for (const FLine& Line : Lines)
+        {
+            Found += Line.Message == Message ? 1 : 0;
+        }
+        return Found;
     }
-    return Found;
-}
+} // namespace OrvWebBridge

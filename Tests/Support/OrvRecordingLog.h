@@ -5,24 +5,27 @@
 #include <string>
 #include <vector>
 
-/** @brief A log port that keeps every line, for tests that check what was logged. */
-class FOrvRecordingLog : public IOrvLog
+namespace OrvWebBridge
 {
-public:
-    struct FLine
+    /** @brief A log port that keeps every line, for tests that check what was logged. */
+    class FOrvRecordingLog : public IOrvLog
     {
-        EOrvLogCategory Category;
-        EOrvLogVerbosity Verbosity;
-        std::string Message;
+    public:
+        struct FLine
+        {
+            EOrvLogCategory Category;
+            EOrvLogVerbosity Verbosity;
+            std::string Message;
+        };
+
+        void Log(EOrvLogCategory Category, EOrvLogVerbosity Verbosity, std::string_view Message) override;
+
+        /** Whether a line with exactly this message and verbosity was logged. */
+        bool Contains(EOrvLogVerbosity Verbosity, std::string_view Message) const;
+
+        /** How many lines carry exactly this message. */
+        int Count(std::string_view Message) const;
+
+        std::vector<FLine> Lines;
     };
-
-    void Log(EOrvLogCategory Category, EOrvLogVerbosity Verbosity, std::string_view Message) override;
-
-    /** Whether a line with exactly this message and verbosity was logged. */
-    bool Contains(EOrvLogVerbosity Verbosity, std::string_view Message) const;
-
-    /** How many lines carry exactly this message. */
-    int Count(std::string_view Message) const;
-
-    std::vector<FLine> Lines;
-};
+} // namespace OrvWebBridge

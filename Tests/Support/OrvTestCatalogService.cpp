@@ -2,114 +2,117 @@
 
 #include "Host/Runtime/OrvBeast.h"
 
-using namespace OrvBeast;
-
-namespace
+namespace OrvWebBridge
 {
-    /** @brief One connection: one request, one (possibly delayed) answer, then close. */
-    struct FOrvTestCatalogSession
+    using namespace OrvBeast;
+
+    namespace
     {
-        explicit FOrvTestCatalogSession(tcp::socket&& InSocket)
-            : Socket(std::move(InSocket)), Timer(Socket.get_executor())
+        /** @brief One connection: one request, one (possibly delayed) answer, then close. */
+        struct FOrvTestCatalogSession
+        {
+            explicit FOrvTestCatalogSession(tcp::socket&& InSocket)
+                : Socket(std::move(InSocket)), Timer(Socket.get_executor())
+            {
+            }
+            tcp::socket Socket;
+            asio::steady_timer Timer;
+            beast::flat_buffer Buffer;
+            http::request<http::string_body> Request;
+            http::response<http::string_body> Response;
+        };
+    } // namespace
+
+    struct FOrvTestCatalogService::FState : std::enable_shared_from_this<FOrvTestCatalogService::FState>
+    {
+        FState(asio::io_context& Context, FAnswerFunction InAnswer)
+            : Acceptor(Context), Answer(std::move(InAnswer))
         {
         }
-        tcp::socket Socket;
-        asio::steady_timer Timer;
-        beast::flat_buffer Buffer;
-        http::request<http::string_body> Request;
-        http::response<http::string_body> Response;
-    };
-} // namespace
 
-struct FOrvTestCatalogService::FState : std::enable_shared_from_this<FOrvTestCatalogService::FState>
-{
-    FState(asio::io_context& Context, FAnswerFunction InAnswer)
-        : Acceptor(Context), Answer(std::move(InAnswer))
-    {
-    }
-
-    void Accept()
-    {
-        Acceptor.async_accept(
-            [Self = shared_from_this()](const FErrorCode& Error, tcp::socket Socket)
-            {
-                if (Error || Self->bStopped)
+        void Accept()
+        {
+            Acceptor.async_accept(
+                [Self = shared_from_this()](const FErrorCode& Error, tcp::socket Socket)
                 {
-                    return;
-                }
-                auto Session = std::make_shared<FOrvTestCatalogSession>(std::move(Socket));
-                http::async_read(Session->Socket, Session->Buffer, Session->Request,
-                                 [Self, Session](const FErrorCode& ReadError, std::size_t)
-                                 {
-                                     if (!ReadError && !Self->bStopped)
+                    if (Error || Self->bStopped)
+                    {
+                        return;
+                    }
+                    auto Session = std::make_shared<FOrvTestCatalogSession>(std::move(Socket));
+                    http::async_read(Session->Socket, Session->Buffer, Session->Request,
+                                     [Self, Session](const FErrorCode& ReadError, std::size_t)
                                      {
-                                         Self->Respond(Session);
-                                     }
-                                 });
-                Self->Accept();
-            });
-    }
-
-    void Respond(const std::shared_ptr<FOrvTestCatalogSession>& Session)
-    {
-        const auto& Request = Session->Request;
-        Requests.push_back({std::string(Request.method_string()), std::string(Request.target()),
-                            std::string(Request[http::field::content_type]),
-                            std::string(Request[http::field::cookie]), Request.body()});
-        const FOrvTestCatalogAnswer Reply = Answer(Requests.back());
-        auto& Response = Session->Response;
-        Response.result(static_cast<unsigned>(Reply.Status));
-        Response.set(http::field::content_type, "application/json");
-        for (const auto& [Name, Value] : Reply.Headers)
-        {
-            Response.insert(Name, Value);
+                                         if (!ReadError && !Self->bStopped)
+                                         {
+                                             Self->Respond(Session);
+                                         }
+                                     });
+                    Self->Accept();
+                });
         }
-        Response.body() = Reply.Body;
-        Response.keep_alive(false);
-        Response.prepare_payload();
-        Session->Timer.expires_after(Seconds(Reply.DelaySeconds));
-        Session->Timer.async_wait(
-            [Self = shared_from_this(), Session](const FErrorCode& Error)
+
+        void Respond(const std::shared_ptr<FOrvTestCatalogSession>& Session)
+        {
+            const auto& Request = Session->Request;
+            Requests.push_back({std::string(Request.method_string()), std::string(Request.target()),
+                                std::string(Request[http::field::content_type]),
+                                std::string(Request[http::field::cookie]), Request.body()});
+            const FOrvTestCatalogAnswer Reply = Answer(Requests.back());
+            auto& Response = Session->Response;
+            Response.result(static_cast<unsigned>(Reply.Status));
+            Response.set(http::field::content_type, "application/json");
+            for (const auto& [Name, Value] : Reply.Headers)
             {
-                if (!Error && !Self->bStopped)
+                Response.insert(Name, Value);
+            }
+            Response.body() = Reply.Body;
+            Response.keep_alive(false);
+            Response.prepare_payload();
+            Session->Timer.expires_after(Seconds(Reply.DelaySeconds));
+            Session->Timer.async_wait(
+                [Self = shared_from_this(), Session](const FErrorCode& Error)
                 {
-                    http::async_write(Session->Socket, Session->Response,
-                                      [Session](const FErrorCode&, std::size_t)
-                                      {
-                                          FErrorCode Ignored;
-                                          Session->Socket.shutdown(tcp::socket::shutdown_send, Ignored);
-                                      });
-                }
-            });
+                    if (!Error && !Self->bStopped)
+                    {
+                        http::async_write(Session->Socket, Session->Response,
+                                          [Session](const FErrorCode&, std::size_t)
+                                          {
+                                              FErrorCode Ignored;
+                                              Session->Socket.shutdown(tcp::socket::shutdown_send, Ignored);
+                                          });
+                    }
+                });
+        }
+
+        tcp::acceptor Acceptor;
+        FAnswerFunction Answer;
+        std::vector<FOrvTestCatalogRequest> Requests;
+        bool bStopped = false;
+    };
+
+    FOrvTestCatalogService::FOrvTestCatalogService(boost::asio::io_context& Context, FAnswerFunction Answer)
+        : State(std::make_shared<FState>(Context, std::move(Answer)))
+    {
+        State->Acceptor = tcp::acceptor(Context, {asio::ip::address_v4::loopback(), 0});
+        State->Accept();
     }
 
-    tcp::acceptor Acceptor;
-    FAnswerFunction Answer;
-    std::vector<FOrvTestCatalogRequest> Requests;
-    bool bStopped = false;
-};
+    FOrvTestCatalogService::~FOrvTestCatalogService()
+    {
+        State->bStopped = true;
+        FErrorCode Ignored;
+        State->Acceptor.close(Ignored);
+    }
 
-FOrvTestCatalogService::FOrvTestCatalogService(boost::asio::io_context& Context, FAnswerFunction Answer)
-    : State(std::make_shared<FState>(Context, std::move(Answer)))
-{
-    State->Acceptor = tcp::acceptor(Context, {asio::ip::address_v4::loopback(), 0});
-    State->Accept();
-}
+    std::string FOrvTestCatalogService::GetBaseUrl() const
+    {
+        FErrorCode Ignored;
+        return "http://127.0.0.1:" + std::to_string(State->Acceptor.local_endpoint(Ignored).port());
+    }
 
-FOrvTestCatalogService::~FOrvTestCatalogService()
-{
-    State->bStopped = true;
-    FErrorCode Ignored;
-    State->Acceptor.close(Ignored);
-}
-
-std::string FOrvTestCatalogService::GetBaseUrl() const
-{
-    FErrorCode Ignored;
-    return "http://127.0.0.1:" + std::to_string(State->Acceptor.local_endpoint(Ignored).port());
-}
-
-const std::vector<FOrvTestCatalogRequest>& FOrvTestCatalogService::GetRequests() const
-{
-    return State->Requests;
-}
+    const std::vector<FOrvTestCatalogRequest>& FOrvTestCatalogService::GetRequests() const
+    {
+        return State->Requests;
+    }
+} // namespace OrvWebBridge

@@ -6,133 +6,136 @@
 #include <boost/asio/read.hpp>
 #include <boost/asio/write.hpp>
 
-using namespace OrvBeast;
-
-std::string FOrvTestHttpReply::Header(std::string_view Name) const
+namespace OrvWebBridge
 {
-    for (const auto& [Key, Value] : Headers)
+    using namespace OrvBeast;
+
+    std::string FOrvTestHttpReply::Header(std::string_view Name) const
     {
-        if (FOrvStrings::EqualsIgnoreCase(Key, Name))
+        for (const auto& [Key, Value] : Headers)
         {
-            return Value;
+            if (FOrvStrings::EqualsIgnoreCase(Key, Name))
+            {
+                return Value;
+            }
         }
+        return {};
     }
-    return {};
-}
 
-template <class FStart> FErrorCode FOrvTestHttpClient::Run(FStart Start, double TimeoutSeconds)
-{
-    bool bDone = false;
-    FErrorCode Result;
-    Start(
-        [&](const FErrorCode& Error, auto&&...)
-        {
-            Result = Error;
-            bDone = true;
-        });
-    const auto Pump = [&](double Seconds)
+    template <class FStart> FErrorCode FOrvTestHttpClient::Run(FStart Start, double TimeoutSeconds)
     {
-        auto Guard = asio::make_work_guard(Context);
-        const auto Deadline = std::chrono::steady_clock::now() + OrvBeast::Seconds(Seconds);
-        while (!bDone && std::chrono::steady_clock::now() < Deadline)
+        bool bDone = false;
+        FErrorCode Result;
+        Start(
+            [&](const FErrorCode& Error, auto&&...)
+            {
+                Result = Error;
+                bDone = true;
+            });
+        const auto Pump = [&](double Seconds)
         {
-            Context.restart();
-            Context.run_one_until(Deadline);
+            auto Guard = asio::make_work_guard(Context);
+            const auto Deadline = std::chrono::steady_clock::now() + OrvBeast::Seconds(Seconds);
+            while (!bDone && std::chrono::steady_clock::now() < Deadline)
+            {
+                Context.restart();
+                Context.run_one_until(Deadline);
+            }
+            return bDone;
+        };
+        if (!Pump(TimeoutSeconds))
+        {
+            Disconnect();
+            Pump(5.0);
+            return asio::error::timed_out;
         }
-        return bDone;
-    };
-    if (!Pump(TimeoutSeconds))
-    {
-        Disconnect();
-        Pump(5.0);
-        return asio::error::timed_out;
+        if (Result)
+        {
+            Disconnect();
+        }
+        return Result;
     }
-    if (Result)
-    {
-        Disconnect();
-    }
-    return Result;
-}
 
-bool FOrvTestHttpClient::Connect(double TimeoutSeconds)
-{
-    if (Socket.is_open())
+    bool FOrvTestHttpClient::Connect(double TimeoutSeconds)
     {
-        return true;
+        if (Socket.is_open())
+        {
+            return true;
+        }
+        Buffer.clear();
+        const tcp::endpoint Endpoint(asio::ip::address_v4::loopback(), Port);
+        return !Run([&](auto Done) { Socket.async_connect(Endpoint, Done); }, TimeoutSeconds);
     }
-    Buffer.clear();
-    const tcp::endpoint Endpoint(asio::ip::address_v4::loopback(), Port);
-    return !Run([&](auto Done) { Socket.async_connect(Endpoint, Done); }, TimeoutSeconds);
-}
 
-FOrvTestHttpReply FOrvTestHttpClient::Send(std::string_view Method, std::string_view Target,
-                                           std::string_view Body, double TimeoutSeconds)
-{
-    std::string Request =
-        std::string(Method) + " " + std::string(Target) + " HTTP/1.1\r\nHost: 127.0.0.1\r\n";
-    if (Method == "POST")
+    FOrvTestHttpReply FOrvTestHttpClient::Send(std::string_view Method, std::string_view Target,
+                                               std::string_view Body, double TimeoutSeconds)
     {
-        Request +=
-            "Content-Type: application/json\r\nContent-Length: " + std::to_string(Body.size()) + "\r\n";
+        std::string Request =
+            std::string(Method) + " " + std::string(Target) + " HTTP/1.1\r\nHost: 127.0.0.1\r\n";
+        if (Method == "POST")
+        {
+            Request +=
+                "Content-Type: application/json\r\nContent-Length: " + std::to_string(Body.size()) + "\r\n";
+        }
+        return SendRaw(Request + "\r\n" + std::string(Body), TimeoutSeconds);
     }
-    return SendRaw(Request + "\r\n" + std::string(Body), TimeoutSeconds);
-}
 
-FOrvTestHttpReply FOrvTestHttpClient::SendRaw(std::string_view Bytes, double TimeoutSeconds)
-{
-    FOrvTestHttpReply Reply;
-    Reply.Error = "connect failed";
-    if (!Connect(TimeoutSeconds))
+    FOrvTestHttpReply FOrvTestHttpClient::SendRaw(std::string_view Bytes, double TimeoutSeconds)
     {
+        FOrvTestHttpReply Reply;
+        Reply.Error = "connect failed";
+        if (!Connect(TimeoutSeconds))
+        {
+            return Reply;
+        }
+        const auto Data = asio::buffer(Bytes.data(), Bytes.size());
+        if (const FErrorCode Error =
+                Run([&](auto Done) { asio::async_write(Socket, Data, Done); }, TimeoutSeconds))
+        {
+            Reply.Error = "write: " + Error.message();
+            return Reply;
+        }
+        return ReadReply(TimeoutSeconds);
+    }
+
+    FOrvTestHttpReply FOrvTestHttpClient::ReadReply(double TimeoutSeconds)
+    {
+        FOrvTestHttpReply Reply;
+        http::response_parser<http::string_body> Parser;
+        Parser.body_limit(256 * 1024 * 1024);
+        if (const FErrorCode Error =
+                Run([&](auto Done) { http::async_read(Socket, Buffer, Parser, Done); }, TimeoutSeconds))
+        {
+            Reply.Error = "read: " + Error.message();
+            return Reply;
+        }
+        const auto& Message = Parser.get();
+        Reply.bReceived = true;
+        Reply.Status = static_cast<int>(Message.result_int());
+        for (const auto& Field : Message)
+        {
+            Reply.Headers.emplace_back(std::string(Field.name_string()), std::string(Field.value()));
+        }
+        Reply.Body = Message.body();
+        if (!Message.keep_alive())
+        {
+            Disconnect();
+        }
         return Reply;
     }
-    const auto Data = asio::buffer(Bytes.data(), Bytes.size());
-    if (const FErrorCode Error =
-            Run([&](auto Done) { asio::async_write(Socket, Data, Done); }, TimeoutSeconds))
-    {
-        Reply.Error = "write: " + Error.message();
-        return Reply;
-    }
-    return ReadReply(TimeoutSeconds);
-}
 
-FOrvTestHttpReply FOrvTestHttpClient::ReadReply(double TimeoutSeconds)
-{
-    FOrvTestHttpReply Reply;
-    http::response_parser<http::string_body> Parser;
-    Parser.body_limit(256 * 1024 * 1024);
-    if (const FErrorCode Error =
-            Run([&](auto Done) { http::async_read(Socket, Buffer, Parser, Done); }, TimeoutSeconds))
+    bool FOrvTestHttpClient::WaitForServerClose(double TimeoutSeconds)
     {
-        Reply.Error = "read: " + Error.message();
-        return Reply;
+        std::string Dropped;
+        // Reads until the stream ends: any error (end of stream, reset) means closed, a timeout does not.
+        return Run([&](auto Done) { asio::async_read(Socket, asio::dynamic_buffer(Dropped), Done); },
+                   TimeoutSeconds) != asio::error::timed_out;
     }
-    const auto& Message = Parser.get();
-    Reply.bReceived = true;
-    Reply.Status = static_cast<int>(Message.result_int());
-    for (const auto& Field : Message)
-    {
-        Reply.Headers.emplace_back(std::string(Field.name_string()), std::string(Field.value()));
-    }
-    Reply.Body = Message.body();
-    if (!Message.keep_alive())
-    {
-        Disconnect();
-    }
-    return Reply;
-}
 
-bool FOrvTestHttpClient::WaitForServerClose(double TimeoutSeconds)
-{
-    std::string Dropped;
-    // Reads until the stream ends: any error (end of stream, reset) means closed, a timeout does not.
-    return Run([&](auto Done) { asio::async_read(Socket, asio::dynamic_buffer(Dropped), Done); },
-               TimeoutSeconds) != asio::error::timed_out;
-}
-
-void FOrvTestHttpClient::Disconnect()
-{
-    FErrorCode Ignored;
-    Socket.shutdown(tcp::socket::shutdown_both, Ignored);
-    Socket.close(Ignored);
-}
+    void FOrvTestHttpClient::Disconnect()
+    {
+        FErrorCode Ignored;
+        Socket.shutdown(tcp::socket::shutdown_both, Ignored);
+        Socket.close(Ignored);
+    }
+} // namespace OrvWebBridge

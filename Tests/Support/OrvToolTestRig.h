@@ -6,73 +6,76 @@
 #include "Tests/Support/OrvManualGameThread.h"
 #include "Tests/Support/OrvRecordingLog.h"
 
-#include <rapidjson/document.h>
+#include "Core/Json/OrvRapidJson.h"
 
 #include <memory>
 #include <string>
 #include <string_view>
 
-/** @brief The one content block a tools/call answered with, as a client reads it. */
-struct FOrvToolReply
+namespace OrvWebBridge
 {
-    bool bAnsweredBeforePump = false; ///< a response arrived before the game thread ran
-    std::string Type;                 ///< "text" or "image"; empty when the answer was no tool result
-    std::string Text;                 ///< the text, or the image's Base64 data
-    std::string MimeType;             ///< images only
-    std::string Envelope;             ///< the whole response text
+    /** @brief The one content block a tools/call answered with, as a client reads it. */
+    struct FOrvToolReply
+    {
+        bool bAnsweredBeforePump = false; ///< a response arrived before the game thread ran
+        std::string Type;                 ///< "text" or "image"; empty when the answer was no tool result
+        std::string Text;                 ///< the text, or the image's Base64 data
+        std::string MimeType;             ///< images only
+        std::string Envelope;             ///< the whole response text
 
-    rapidjson::Document Json() const; ///< the text parsed as JSON
+        rapidjson::Document Json() const; ///< the text parsed as JSON
 
-    /** The block of one tools/call response envelope; Type stays empty when it holds no single block. */
-    static FOrvToolReply Parse(std::string Envelope);
-};
+        /** The block of one tools/call response envelope; Type stays empty when it holds no single block. */
+        static FOrvToolReply Parse(std::string Envelope);
+    };
 
-/** @brief Which viewport the tools see: the in-memory editor's, or a fake a test sets up. */
-enum class EOrvRigViewport
-{
-    Editor,
-    Fake
-};
+    /** @brief Which viewport the tools see: the in-memory editor's, or a fake a test sets up. */
+    enum class EOrvRigViewport
+    {
+        Editor,
+        Fake
+    };
 
-/**
- * @brief The editor tools behind a real handler: an in-memory editor, a game thread pumped by hand, a
- * fake JPEG encoder and (optionally) a fake viewport. Calls go through HandleRequest as tools/call.
- */
-class FOrvToolTestRig
-{
-public:
-    explicit FOrvToolTestRig(EOrvRigViewport ViewportKind = EOrvRigViewport::Editor);
+    /**
+     * @brief The editor tools behind a real handler: an in-memory editor, a game thread pumped by hand, a
+     * fake JPEG encoder and (optionally) a fake viewport. Calls go through HandleRequest as tools/call.
+     */
+    class FOrvToolTestRig
+    {
+    public:
+        explicit FOrvToolTestRig(EOrvRigViewport ViewportKind = EOrvRigViewport::Editor);
 
-    /** Sends tools/call (ArgumentsJson empty: no arguments member), pumps, reads the block. */
-    FOrvToolReply Call(std::string_view Name, std::string_view ArgumentsJson = "{}");
+        /** Sends tools/call (ArgumentsJson empty: no arguments member), pumps, reads the block. */
+        FOrvToolReply Call(std::string_view Name, std::string_view ArgumentsJson = "{}");
 
-    /** Sends tools/call without pumping; the game thread must be run by the test. */
-    void CallLater(std::string_view Name, std::string_view ArgumentsJson,
-                   std::vector<std::string>& OutResponses);
+        /** Sends tools/call without pumping; the game thread must be run by the test. */
+        void CallLater(std::string_view Name, std::string_view ArgumentsJson,
+                       std::vector<std::string>& OutResponses);
 
-    /** Adds "/Game/ORVESSA/<Folder>/<Name>" with a valid product tag ProductId (none when empty). */
-    FOrvMeshRef AddCatalogMesh(const std::string& Folder, const std::string& Name,
-                               const std::string& ProductId,
-                               const FOrvBox& Bounds = {{-50, -25, 0}, {50, 25, 90}});
+        /** Adds "/Game/ORVESSA/<Folder>/<Name>" with a valid product tag ProductId (none when empty). */
+        FOrvMeshRef AddCatalogMesh(const std::string& Folder, const std::string& Name,
+                                   const std::string& ProductId,
+                                   const FOrvBox& Bounds = {{-50, -25, 0}, {50, 25, 90}});
 
-    FOrvActorRef AddMeshActor(FOrvMeshRef Mesh, const FOrvTransform& Transform = {},
-                              const std::string& Label = {});
+        FOrvActorRef AddMeshActor(FOrvMeshRef Mesh, const FOrvTransform& Transform = {},
+                                  const std::string& Label = {});
 
-    FOrvMemoryEditor Editor;
-    FOrvManualGameThread GameThread;
-    FOrvRecordingLog Log;
-    FOrvFakeViewport FakeViewport;
-    FOrvFakeImageWrapperModule Images;
-    std::unique_ptr<FOrvMcpHandler> Handler;
-};
+        FOrvMemoryEditor Editor;
+        FOrvManualGameThread GameThread;
+        FOrvRecordingLog Log;
+        FOrvFakeViewport FakeViewport;
+        FOrvFakeImageWrapperModule Images;
+        std::unique_ptr<FOrvMcpHandler> Handler;
+    };
 
-/** @brief Reads a JSON [a, b, c] array member into a triple for EXPECT_EQ; NaNs when it is not one. */
-struct FOrvTriple
-{
-    double A = 0;
-    double B = 0;
-    double C = 0;
-    friend bool operator==(const FOrvTriple&, const FOrvTriple&) = default;
-};
-FOrvTriple OrvReadTriple(const rapidjson::Value& Object, const char* Key);
-std::ostream& operator<<(std::ostream& Stream, const FOrvTriple& Triple);
+    /** @brief Reads a JSON [a, b, c] array member into a triple for EXPECT_EQ; NaNs when it is not one. */
+    struct FOrvTriple
+    {
+        double A = 0;
+        double B = 0;
+        double C = 0;
+        friend bool operator==(const FOrvTriple&, const FOrvTriple&) = default;
+    };
+    FOrvTriple OrvReadTriple(const rapidjson::Value& Object, const char* Key);
+    std::ostream& operator<<(std::ostream& Stream, const FOrvTriple& Triple);
+} // namespace OrvWebBridge

@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+using namespace OrvWebBridge;
+
 namespace
 {
     std::string Encode(std::string_view Text)

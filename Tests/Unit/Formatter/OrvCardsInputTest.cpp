@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace OrvWebBridge;
+
 namespace
 {
     // The records' "name"s in order ("null" for a JSON null), or the error text.

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace OrvWebBridge;
+
 TEST(FOrvFloatTextTest, SanitizeFloatTrimsZerosKeepsTheMinimumFractionAndPrintsNonFiniteValues)
 {
     EXPECT_EQ(FOrvFloatText::SanitizeFloat(2019.0, 0), "2019");

@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+using namespace OrvWebBridge;
+
 namespace
 {
     std::string Card(const char* RecordJson)

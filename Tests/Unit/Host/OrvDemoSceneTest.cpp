@@ -11,6 +11,8 @@
 #include <string>
 #include <vector>
 
+using namespace OrvWebBridge;
+
 namespace
 {
     class FOrvDemoSceneTest : public testing::Test

@@ -4,6 +4,8 @@
 
 #include <string>
 
+using namespace OrvWebBridge;
+
 namespace
 {
     FOrvActorRef SpawnAndKeep(FOrvMemoryEditor& Editor)

@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+using namespace OrvWebBridge;
+
 namespace
 {
     class FOrvMemoryEditorUndoTest : public testing::Test

@@ -9,6 +9,8 @@
 #include <string>
 #include <tuple>
 
+using namespace OrvWebBridge;
+
 namespace
 {
     const char* const RoomScene = R"({

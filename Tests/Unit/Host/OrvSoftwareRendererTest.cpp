@@ -7,6 +7,8 @@
 #include <cstring>
 #include <vector>
 
+using namespace OrvWebBridge;
+
 namespace
 {
     constexpr int Width = 160;

@@ -6,6 +6,8 @@
 #include <cstdint>
 #include <vector>
 
+using namespace OrvWebBridge;
+
 namespace
 {
     /** A BGRA test card: gradients plus a little pseudo-random noise, so quality changes the size. */

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace OrvWebBridge;
+
 namespace
 {
     std::string Write(const std::string& JsonText, EOrvJsonStyle Style = EOrvJsonStyle::Pretty)

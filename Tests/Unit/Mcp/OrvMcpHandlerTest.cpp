@@ -2,12 +2,14 @@
 #include "Tests/Support/OrvMcpTestRequests.h"
 #include "Tests/Support/OrvNullEditorPorts.h"
 
+#include "Core/Json/OrvRapidJson.h"
 #include <gtest/gtest.h>
-#include <rapidjson/document.h>
 
 #include <cctype>
 #include <string>
 #include <vector>
+
+using namespace OrvWebBridge;
 
 namespace
 {

@@ -12,6 +12,8 @@
 #include <utility>
 #include <vector>
 
+using namespace OrvWebBridge;
+
 namespace
 {
     using FHeaders = std::vector<std::pair<std::string, std::string>>;

@@ -3,11 +3,13 @@
 #include "Tests/Support/OrvMcpTestRequests.h"
 #include "Tests/Support/OrvNullEditorPorts.h"
 
+#include "Core/Json/OrvRapidJson.h"
 #include <gtest/gtest.h>
-#include <rapidjson/document.h>
 
 #include <string>
 #include <vector>
+
+using namespace OrvWebBridge;
 
 namespace
 {

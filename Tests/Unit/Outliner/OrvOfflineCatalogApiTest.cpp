@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace OrvWebBridge;
+
 namespace
 {
     constexpr const char* CatalogText = R"({"products":[

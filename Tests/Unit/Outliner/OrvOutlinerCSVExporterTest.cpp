@@ -7,6 +7,8 @@
 #include <fstream>
 #include <sstream>
 
+using namespace OrvWebBridge;
+
 namespace
 {
     // Golden files are compared byte for byte; ORV_UPDATE_GOLDEN=1 rewrites them (then review the diff).

@@ -9,6 +9,8 @@
 #include <fstream>
 #include <sstream>
 
+using namespace OrvWebBridge;
+
 namespace
 {
     /** A fresh directory under the system's temporary one, removed afterwards. */

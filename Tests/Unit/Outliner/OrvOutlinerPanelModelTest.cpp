@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace OrvWebBridge;
+
 namespace
 {
     /** Six actors of three products: two macro categories and a root-level category. */

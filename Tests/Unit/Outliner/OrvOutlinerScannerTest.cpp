@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace OrvWebBridge;
+
 namespace
 {
     /** A rig and its scanner; Run keeps what the completion hands over. */

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <random>
 
+using namespace OrvWebBridge;
+
 namespace
 {
     // The order the schedule promises, written the plain way.

@@ -16,211 +16,216 @@
 #include <string>
 #include <vector>
 
-/** @brief A catalogue service that keeps every request until the test answers the oldest open one. */
-class FOrvFakeCatalogApi : public IOrvCatalogApi
+namespace OrvWebBridge
 {
-public:
-    struct FRequest
+    /** @brief A catalogue service that keeps every request until the test answers the oldest open one. */
+    class FOrvFakeCatalogApi : public IOrvCatalogApi
     {
-        std::string Path;
-        std::string Body;
-        FOrvApiCallback OnComplete;
-        bool bAnswered = false;
+    public:
+        struct FRequest
+        {
+            std::string Path;
+            std::string Body;
+            FOrvApiCallback OnComplete;
+            bool bAnswered = false;
+        };
+
+        void Post(std::string_view Path, std::string JsonBody, FOrvApiCallback OnComplete) override
+        {
+            Requests.push_back({std::string(Path), std::move(JsonBody), std::move(OnComplete)});
+        }
+        std::vector<FOrvCookie> GetCookies() const override { return {}; }
+        void SetCookie(const FOrvCookie&) override {}
+
+        /** A successful answer; its document is null when JsonText is not an object. */
+        void Answer(const std::string& JsonText)
+        {
+            auto Document = std::make_shared<rapidjson::Document>();
+            const bool bObject = FOrvJson::ParseObject(JsonText, *Document);
+            Complete(true, bObject ? Document : nullptr);
+        }
+        void Fail() { Complete(false, nullptr); }
+
+        std::vector<FRequest> Requests;
+
+    private:
+        void Complete(bool bSuccess, std::shared_ptr<const rapidjson::Document> Document)
+        {
+            for (FRequest& Request : Requests)
+            {
+                if (!Request.bAnswered)
+                {
+                    Request.bAnswered = true;
+                    FOrvApiCallback OnComplete = Request.OnComplete; // the callback may add requests
+                    OnComplete(bSuccess, std::move(Document));
+                    return;
+                }
+            }
+            ADD_FAILURE() << "no open catalogue request to answer";
+        }
     };
 
-    void Post(std::string_view Path, std::string JsonBody, FOrvApiCallback OnComplete) override
+    /** @brief Timers on a clock that only the test moves. */
+    class FOrvFakeTimers : public IOrvTimers
     {
-        Requests.push_back({std::string(Path), std::move(JsonBody), std::move(OnComplete)});
-    }
-    std::vector<FOrvCookie> GetCookies() const override { return {}; }
-    void SetCookie(const FOrvCookie&) override {}
-
-    /** A successful answer; its document is null when JsonText is not an object. */
-    void Answer(const std::string& JsonText)
-    {
-        auto Document = std::make_shared<rapidjson::Document>();
-        const bool bObject = FOrvJson::ParseObject(JsonText, *Document);
-        Complete(true, bObject ? Document : nullptr);
-    }
-    void Fail() { Complete(false, nullptr); }
-
-    std::vector<FRequest> Requests;
-
-private:
-    void Complete(bool bSuccess, std::shared_ptr<const rapidjson::Document> Document)
-    {
-        for (FRequest& Request : Requests)
+    public:
+        FOrvTimerHandle SetTimer(double DelaySeconds, std::function<void()> Callback) override
         {
-            if (!Request.bAnswered)
+            Pending[{Now + DelaySeconds, ++LastId}] = std::move(Callback);
+            return {LastId};
+        }
+        void ClearTimer(FOrvTimerHandle& Handle) override
+        {
+            std::erase_if(Pending, [&](const auto& Entry) { return Entry.first.second == Handle.Value; });
+            Handle = {};
+        }
+
+        /** Moves the clock on, firing due timers in the order they fall due. */
+        void Advance(double Seconds)
+        {
+            Now += Seconds;
+            while (!Pending.empty() && Pending.begin()->first.first <= Now + 1e-9)
             {
-                Request.bAnswered = true;
-                FOrvApiCallback OnComplete = Request.OnComplete; // the callback may add requests
-                OnComplete(bSuccess, std::move(Document));
-                return;
+                std::function<void()> Callback = std::move(Pending.begin()->second);
+                Pending.erase(Pending.begin());
+                Callback();
             }
         }
-        ADD_FAILURE() << "no open catalogue request to answer";
-    }
-};
+        std::size_t PendingCount() const { return Pending.size(); }
 
-/** @brief Timers on a clock that only the test moves. */
-class FOrvFakeTimers : public IOrvTimers
-{
-public:
-    FOrvTimerHandle SetTimer(double DelaySeconds, std::function<void()> Callback) override
-    {
-        Pending[{Now + DelaySeconds, ++LastId}] = std::move(Callback);
-        return {LastId};
-    }
-    void ClearTimer(FOrvTimerHandle& Handle) override
-    {
-        std::erase_if(Pending, [&](const auto& Entry) { return Entry.first.second == Handle.Value; });
-        Handle = {};
-    }
+    private:
+        std::map<std::pair<double, std::uint64_t>, std::function<void()>>
+            Pending; ///< (due time, id) to callback
+        std::uint64_t LastId = 0;
+        double Now = 0.0;
+    };
 
-    /** Moves the clock on, firing due timers in the order they fall due. */
-    void Advance(double Seconds)
+    /** @brief A save dialog that answers as told, and files kept in memory. */
+    class FOrvFakeFiles : public IOrvFiles
     {
-        Now += Seconds;
-        while (!Pending.empty() && Pending.begin()->first.first <= Now + 1e-9)
+    public:
+        bool IsDesktopPlatformAvailable() const override { return bDesktopPlatform; }
+        bool SaveFileDialog(const FOrvSaveDialogRequest& Request, std::vector<std::string>& OutFiles) override
         {
-            std::function<void()> Callback = std::move(Pending.begin()->second);
-            Pending.erase(Pending.begin());
-            Callback();
+            ++DialogsShown;
+            LastRequest = Request;
+            if (DialogAnswer)
+            {
+                OutFiles = *DialogAnswer;
+            }
+            return DialogAnswer.has_value();
         }
-    }
-    std::size_t PendingCount() const { return Pending.size(); }
-
-private:
-    std::map<std::pair<double, std::uint64_t>, std::function<void()>> Pending; ///< (due time, id) to callback
-    std::uint64_t LastId = 0;
-    double Now = 0.0;
-};
-
-/** @brief A save dialog that answers as told, and files kept in memory. */
-class FOrvFakeFiles : public IOrvFiles
-{
-public:
-    bool IsDesktopPlatformAvailable() const override { return bDesktopPlatform; }
-    bool SaveFileDialog(const FOrvSaveDialogRequest& Request, std::vector<std::string>& OutFiles) override
-    {
-        ++DialogsShown;
-        LastRequest = Request;
-        if (DialogAnswer)
+        bool SaveStringToFile(std::string_view Text, const std::string& FilePath) override
         {
-            OutFiles = *DialogAnswer;
+            if (!bFailWrites)
+            {
+                Written[FilePath] = std::string(Text);
+            }
+            return !bFailWrites;
         }
-        return DialogAnswer.has_value();
-    }
-    bool SaveStringToFile(std::string_view Text, const std::string& FilePath) override
+
+        bool bDesktopPlatform = true;
+        bool bFailWrites = false;
+        std::optional<std::vector<std::string>> DialogAnswer =
+            std::vector<std::string>{"/Exports/Schedule.csv"};
+        int DialogsShown = 0;
+        FOrvSaveDialogRequest LastRequest;
+        std::map<std::string, std::string> Written;
+    };
+
+    class FOrvFakeEnvironment : public IOrvEnvironment
     {
-        if (!bFailWrites)
+    public:
+        std::string GetProjectDir() const override { return "/Projects/Villa/"; }
+        std::optional<std::string> FindPluginVersion(std::string_view PluginName) const override
         {
-            Written[FilePath] = std::string(Text);
+            return PluginName == "ORVESSA" ? PluginVersion : std::nullopt;
         }
-        return !bFailWrites;
-    }
+        std::string GetLocalDate() const override { return "2025-03-14"; }
 
-    bool bDesktopPlatform = true;
-    bool bFailWrites = false;
-    std::optional<std::vector<std::string>> DialogAnswer = std::vector<std::string>{"/Exports/Schedule.csv"};
-    int DialogsShown = 0;
-    FOrvSaveDialogRequest LastRequest;
-    std::map<std::string, std::string> Written;
-};
+        std::optional<std::string> PluginVersion = "1.2.3";
+    };
 
-class FOrvFakeEnvironment : public IOrvEnvironment
-{
-public:
-    std::string GetProjectDir() const override { return "/Projects/Villa/"; }
-    std::optional<std::string> FindPluginVersion(std::string_view PluginName) const override
+    /** @brief The in-memory editor with catalogue meshes, plus fakes for the rest of the outliner's ports. */
+    struct FOrvOutlinerRig
     {
-        return PluginName == "ORVESSA" ? PluginVersion : std::nullopt;
-    }
-    std::string GetLocalDate() const override { return "2025-03-14"; }
+        FOrvMemoryEditor Editor;
+        FOrvFakeCatalogApi Api;
+        FOrvFakeTimers Timers;
+        FOrvHostEditorUi Ui; ///< records what the panel asked of the editor
+        FOrvFakeFiles Files;
+        FOrvFakeEnvironment Environment;
+        FOrvRecordingLog Log;
 
-    std::optional<std::string> PluginVersion = "1.2.3";
-};
-
-/** @brief The in-memory editor with catalogue meshes, plus fakes for the rest of the outliner's ports. */
-struct FOrvOutlinerRig
-{
-    FOrvMemoryEditor Editor;
-    FOrvFakeCatalogApi Api;
-    FOrvFakeTimers Timers;
-    FOrvHostEditorUi Ui; ///< records what the panel asked of the editor
-    FOrvFakeFiles Files;
-    FOrvFakeEnvironment Environment;
-    FOrvRecordingLog Log;
-
-    FOrvMeshRef AddProductMesh(const std::string& AssetName, const std::string& ProductId,
-                               bool bValidTag = true)
-    {
-        return Editor.AddStaticMesh(
-            {"/Game/ORVESSA/Meshes/" + AssetName, {}, FOrvProductTag{ProductId, bValidTag}});
-    }
-    /** A mesh without a product tag (walls, floors). */
-    FOrvMeshRef AddPlainMesh(const std::string& AssetName)
-    {
-        return Editor.AddStaticMesh({"/Game/Architecture/" + AssetName, {}, std::nullopt});
-    }
-    FOrvActorRef AddActor(std::vector<FOrvMeshRef> Components)
-    {
-        FOrvMemoryActorDesc Desc;
-        Desc.StaticMeshComponents = std::move(Components);
-        return Editor.AddActor(Desc);
-    }
-    std::vector<FOrvActorRef> AddActors(FOrvMeshRef Mesh, int Count)
-    {
-        std::vector<FOrvActorRef> Actors;
-        while (Count-- > 0)
+        FOrvMeshRef AddProductMesh(const std::string& AssetName, const std::string& ProductId,
+                                   bool bValidTag = true)
         {
-            Actors.push_back(AddActor({Mesh}));
+            return Editor.AddStaticMesh(
+                {"/Game/ORVESSA/Meshes/" + AssetName, {}, FOrvProductTag{ProductId, bValidTag}});
         }
-        return Actors;
-    }
-    void Destroy(FOrvActorRef Actor) { Editor.Editing().EditorDestroyActor(Actor); }
+        /** A mesh without a product tag (walls, floors). */
+        FOrvMeshRef AddPlainMesh(const std::string& AssetName)
+        {
+            return Editor.AddStaticMesh({"/Game/Architecture/" + AssetName, {}, std::nullopt});
+        }
+        FOrvActorRef AddActor(std::vector<FOrvMeshRef> Components)
+        {
+            FOrvMemoryActorDesc Desc;
+            Desc.StaticMeshComponents = std::move(Components);
+            return Editor.AddActor(Desc);
+        }
+        std::vector<FOrvActorRef> AddActors(FOrvMeshRef Mesh, int Count)
+        {
+            std::vector<FOrvActorRef> Actors;
+            while (Count-- > 0)
+            {
+                Actors.push_back(AddActor({Mesh}));
+            }
+            return Actors;
+        }
+        void Destroy(FOrvActorRef Actor) { Editor.Editing().EditorDestroyActor(Actor); }
 
-    FOrvOutlinerScannerPorts ScannerPorts() { return {Editor.World(), Editor.Meshes(), Api, Log}; }
-    FOrvOutlinerPanelPorts PanelPorts()
+        FOrvOutlinerScannerPorts ScannerPorts() { return {Editor.World(), Editor.Meshes(), Api, Log}; }
+        FOrvOutlinerPanelPorts PanelPorts()
+        {
+            return {Editor.World(),
+                    Editor.LevelEvents(),
+                    Editor.Meshes(),
+                    Api,
+                    Editor.Selection(),
+                    Editor.Editing(),
+                    Timers,
+                    Ui,
+                    Files,
+                    Environment,
+                    Log};
+        }
+    };
+
+    /** @brief A product's info with the fields every view shows; the others empty. */
+    inline FOrvProductInfo OrvTestInfo(const std::string& Id, const std::string& Brand,
+                                       const std::string& Name, const std::string& Category)
     {
-        return {Editor.World(),
-                Editor.LevelEvents(),
-                Editor.Meshes(),
-                Api,
-                Editor.Selection(),
-                Editor.Editing(),
-                Timers,
-                Ui,
-                Files,
-                Environment,
-                Log};
+        return {Id, Name, Brand, Category, "", "", "", "", "", "", ""};
     }
-};
 
-/** @brief A product's info with the fields every view shows; the others empty. */
-inline FOrvProductInfo OrvTestInfo(const std::string& Id, const std::string& Brand, const std::string& Name,
-                                   const std::string& Category)
-{
-    return {Id, Name, Brand, Category, "", "", "", "", "", "", ""};
-}
-
-/** @brief One catalogue record as the batch answer carries it. */
-inline std::string OrvTestRecord(const std::string& Id, const std::string& Brand, const std::string& Name,
-                                 const std::string& Category, const std::string& MacroCategory = "")
-{
-    return "{\"id\":\"" + Id + "\",\"name\":\"" + Name + "\",\"brand\":\"" + Brand + "\",\"category\":\"" +
-           Category + "\",\"category_t2\":\"" + MacroCategory + "\"}";
-}
-
-/** @brief A batch answer with status true, products keyed by id as the service sends them. */
-inline std::string OrvTestAnswer(const std::vector<std::pair<std::string, std::string>>& IdAndRecord,
-                                 const std::string& MissingJsonArray = "[]")
-{
-    std::string Products;
-    for (const auto& [Id, Record] : IdAndRecord)
+    /** @brief One catalogue record as the batch answer carries it. */
+    inline std::string OrvTestRecord(const std::string& Id, const std::string& Brand, const std::string& Name,
+                                     const std::string& Category, const std::string& MacroCategory = "")
     {
-        Products += (Products.empty() ? "\"" : ",\"") + Id + "\":" + Record;
+        return "{\"id\":\"" + Id + "\",\"name\":\"" + Name + "\",\"brand\":\"" + Brand +
+               "\",\"category\":\"" + Category + "\",\"category_t2\":\"" + MacroCategory + "\"}";
     }
-    return "{\"status\":true,\"products\":{" + Products + "},\"missing\":" + MissingJsonArray + "}";
-}
+
+    /** @brief A batch answer with status true, products keyed by id as the service sends them. */
+    inline std::string OrvTestAnswer(const std::vector<std::pair<std::string, std::string>>& IdAndRecord,
+                                     const std::string& MissingJsonArray = "[]")
+    {
+        std::string Products;
+        for (const auto& [Id, Record] : IdAndRecord)
+        {
+            Products += (Products.empty() ? "\"" : ",\"") + Id + "\":" + Record;
+        }
+        return "{\"status\":true,\"products\":{" + Products + "},\"missing\":" + MissingJsonArray + "}";
+    }
+} // namespace OrvWebBridge

@@ -9,6 +9,8 @@
 #include <optional>
 #include <string>
 
+using namespace OrvWebBridge;
+
 // The exact /health and /sse answers, -32700 on broken bodies and the busy-port message are proved over
 // the real binary by the end-to-end tests; these cover what the server does with HTTP itself.
 namespace

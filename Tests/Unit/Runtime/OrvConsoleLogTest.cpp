@@ -7,6 +7,8 @@
 #include <cstdio>
 #include <string>
 
+using namespace OrvWebBridge;
+
 namespace
 {
     /** What a console log writes for these lines. */

@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+using namespace OrvWebBridge;
+
 TEST(FOrvHostEventLoopTest, PostedTasksRunLaterInPostOrderNeverInline)
 {
     FOrvHostEventLoop Loop;

@@ -9,6 +9,8 @@
 #include <memory>
 #include <string>
 
+using namespace OrvWebBridge;
+
 namespace
 {
     constexpr const char* BatchPath = "/orvvault/products/batch";

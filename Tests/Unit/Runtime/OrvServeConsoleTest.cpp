@@ -9,6 +9,8 @@
 #include <string>
 #include <unistd.h>
 
+using namespace OrvWebBridge;
+
 namespace
 {
     /** A level with one chair, and a way to make one undoable change the way the tools do. */

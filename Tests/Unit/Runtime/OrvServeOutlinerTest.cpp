@@ -13,6 +13,8 @@
 #include <fstream>
 #include <sstream>
 
+using namespace OrvWebBridge;
+
 namespace
 {
     /** The demo room with its offline catalogue, scanned, and the console with the outliner commands. */

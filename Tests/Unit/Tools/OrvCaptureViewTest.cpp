@@ -9,6 +9,8 @@
 #include <cstring>
 #include <string>
 
+using namespace OrvWebBridge;
+
 namespace
 {
     std::vector<unsigned char> DecodeBase64(std::string_view Text)

@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <string>
 
+using namespace OrvWebBridge;
+
 TEST(FOrvListAvailableAssetsTest, ListsOnlyStaticMeshesUnderTheRootInRegistryOrder)
 {
     FOrvToolTestRig Rig;

@@ -10,6 +10,8 @@
 #include <string>
 #include <tuple>
 
+using namespace OrvWebBridge;
+
 namespace
 {
     // Everything a tool can change, one line per actor in iterator order.

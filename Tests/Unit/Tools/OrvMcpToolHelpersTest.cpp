@@ -6,6 +6,8 @@
 #include <limits>
 #include <string>
 
+using namespace OrvWebBridge;
+
 namespace
 {
     FOrvMeshRef AddMesh(FOrvMemoryEditor& Editor, const std::string& PackageName)

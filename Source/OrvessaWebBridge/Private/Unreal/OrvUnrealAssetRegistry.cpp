@@ -10,40 +10,43 @@
 #include "Modules/ModuleManager.h"
 #include "UObject/SoftObjectPath.h"
 
-std::vector<FOrvAssetData> FOrvUnrealAssetRegistry::GetAssetsByPath(std::string_view PackagePath,
-                                                                    bool bRecursive) const
+namespace OrvWebBridge
 {
-    // While the editor is still scanning, the registry answers with what it has found so far.
-    IAssetRegistry& Registry =
-        FModuleManager::LoadModuleChecked<FAssetRegistryModule>(TEXT("AssetRegistry")).Get();
-    TArray<FAssetData> Found;
-    Registry.GetAssetsByPath(FName(*FOrvUnrealConversions::ToFString(PackagePath)), Found, bRecursive);
-
-    std::vector<FOrvAssetData> Assets;
-    Assets.reserve(static_cast<size_t>(Found.Num()));
-    for (const FAssetData& Data : Found)
+    std::vector<FOrvAssetData> FOrvUnrealAssetRegistry::GetAssetsByPath(std::string_view PackagePath,
+                                                                        bool bRecursive) const
     {
-        Assets.push_back(FOrvAssetData{FOrvUnrealConversions::ToUtf8(Data.PackageName.ToString()),
-                                       FOrvUnrealConversions::ToUtf8(Data.PackagePath.ToString()),
-                                       FOrvUnrealConversions::ToUtf8(Data.AssetName.ToString()),
-                                       FOrvUnrealConversions::ToUtf8(Data.AssetClassPath.ToString())});
+        // While the editor is still scanning, the registry answers with what it has found so far.
+        IAssetRegistry& Registry =
+            FModuleManager::LoadModuleChecked<FAssetRegistryModule>(TEXT("AssetRegistry")).Get();
+        TArray<FAssetData> Found;
+        Registry.GetAssetsByPath(FName(*FOrvUnrealConversions::ToFString(PackagePath)), Found, bRecursive);
+
+        std::vector<FOrvAssetData> Assets;
+        Assets.reserve(static_cast<size_t>(Found.Num()));
+        for (const FAssetData& Data : Found)
+        {
+            Assets.push_back(FOrvAssetData{FOrvUnrealConversions::ToUtf8(Data.PackageName.ToString()),
+                                           FOrvUnrealConversions::ToUtf8(Data.PackagePath.ToString()),
+                                           FOrvUnrealConversions::ToUtf8(Data.AssetName.ToString()),
+                                           FOrvUnrealConversions::ToUtf8(Data.AssetClassPath.ToString())});
+        }
+        return Assets;
     }
-    return Assets;
-}
 
-FOrvMeshRef FOrvUnrealAssetRegistry::LoadStaticMesh(std::string_view ObjectPath)
-{
-    // A miss is expected (the tools try bare names first), so it must not warn.
-    const FString Path = FOrvUnrealConversions::ToFString(ObjectPath);
-    UObject* Loaded =
-        StaticLoadObject(UStaticMesh::StaticClass(), nullptr, *Path, nullptr, LOAD_NoWarn | LOAD_Quiet);
-    return Handles.ToMeshRef(Cast<UStaticMesh>(Loaded));
-}
+    FOrvMeshRef FOrvUnrealAssetRegistry::LoadStaticMesh(std::string_view ObjectPath)
+    {
+        // A miss is expected (the tools try bare names first), so it must not warn.
+        const FString Path = FOrvUnrealConversions::ToFString(ObjectPath);
+        UObject* Loaded =
+            StaticLoadObject(UStaticMesh::StaticClass(), nullptr, *Path, nullptr, LOAD_NoWarn | LOAD_Quiet);
+        return Handles.ToMeshRef(Cast<UStaticMesh>(Loaded));
+    }
 
-FOrvMeshRef FOrvUnrealAssetRegistry::LoadStaticMeshAsset(const FOrvAssetData& Asset)
-{
-    // What FAssetData::GetAsset does: load the object path "Package.Asset".
-    const FSoftObjectPath ObjectPath(
-        FOrvUnrealConversions::ToFString(Asset.PackageName + "." + Asset.AssetName));
-    return Handles.ToMeshRef(Cast<UStaticMesh>(ObjectPath.TryLoad()));
-}
+    FOrvMeshRef FOrvUnrealAssetRegistry::LoadStaticMeshAsset(const FOrvAssetData& Asset)
+    {
+        // What FAssetData::GetAsset does: load the object path "Package.Asset".
+        const FSoftObjectPath ObjectPath(
+            FOrvUnrealConversions::ToFString(Asset.PackageName + "." + Asset.AssetName));
+        return Handles.ToMeshRef(Cast<UStaticMesh>(ObjectPath.TryLoad()));
+    }
+} // namespace OrvWebBridge

@@ -4,19 +4,22 @@
 
 #include "Core/Ports/IOrvAssetRegistry.h"
 
-class FOrvUnrealHandles;
-
-/** @brief IOrvAssetRegistry over the AssetRegistry module and the object loader. */
-class FOrvUnrealAssetRegistry final : public IOrvAssetRegistry
+namespace OrvWebBridge
 {
-public:
-    explicit FOrvUnrealAssetRegistry(FOrvUnrealHandles& InHandles) : Handles(InHandles) {}
+    class FOrvUnrealHandles;
 
-    virtual std::vector<FOrvAssetData> GetAssetsByPath(std::string_view PackagePath,
-                                                       bool bRecursive) const override;
-    virtual FOrvMeshRef LoadStaticMesh(std::string_view ObjectPath) override;
-    virtual FOrvMeshRef LoadStaticMeshAsset(const FOrvAssetData& Asset) override;
+    /** @brief IOrvAssetRegistry over the AssetRegistry module and the object loader. */
+    class FOrvUnrealAssetRegistry final : public IOrvAssetRegistry
+    {
+    public:
+        explicit FOrvUnrealAssetRegistry(FOrvUnrealHandles& InHandles) : Handles(InHandles) {}
 
-private:
-    FOrvUnrealHandles& Handles;
-};
+        virtual std::vector<FOrvAssetData> GetAssetsByPath(std::string_view PackagePath,
+                                                           bool bRecursive) const override;
+        virtual FOrvMeshRef LoadStaticMesh(std::string_view ObjectPath) override;
+        virtual FOrvMeshRef LoadStaticMeshAsset(const FOrvAssetData& Asset) override;
+
+    private:
+        FOrvUnrealHandles& Handles;
+    };
+} // namespace OrvWebBridge

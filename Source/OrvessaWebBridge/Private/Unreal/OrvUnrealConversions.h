@@ -8,28 +8,31 @@
 #include <string_view>
 #include <vector>
 
-/**
- * @brief The one seam between engine and core values: FString <-> UTF-8 std::string, and the engine's
- * vector, rotator, box and colour types <-> the core's. Every adapter converts here and nowhere else.
- */
-struct FOrvUnrealConversions
+namespace OrvWebBridge
 {
-    /** UTF-8 bytes to FString, by length: the bytes need no terminator and may hold NUL. */
-    static FString ToFString(std::string_view Utf8);
+    /**
+     * @brief The one seam between engine and core values: FString <-> UTF-8 std::string, and the engine's
+     * vector, rotator, box and colour types <-> the core's. Every adapter converts here and nowhere else.
+     */
+    struct FOrvUnrealConversions
+    {
+        /** UTF-8 bytes to FString, by length: the bytes need no terminator and may hold NUL. */
+        static FString ToFString(std::string_view Utf8);
 
-    /** FString to UTF-8 bytes, by length. */
-    static std::string ToUtf8(const FString& Text);
+        /** FString to UTF-8 bytes, by length. */
+        static std::string ToUtf8(const FString& Text);
 
-    static FVector ToFVector(const FOrvVector& Vector);
-    static FOrvVector ToOrvVector(const FVector& Vector);
+        static FVector ToFVector(const FOrvVector& Vector);
+        static FOrvVector ToOrvVector(const FVector& Vector);
 
-    static FRotator ToFRotator(const FOrvRotator& Rotator);
-    static FOrvRotator ToOrvRotator(const FRotator& Rotator);
+        static FRotator ToFRotator(const FOrvRotator& Rotator);
+        static FOrvRotator ToOrvRotator(const FRotator& Rotator);
 
-    /** An invalid (never grown) engine box becomes the zero box. */
-    static FOrvBox ToOrvBox(const FBox& Box);
-    static FBox ToFBox(const FOrvBox& Box);
+        /** An invalid (never grown) engine box becomes the zero box. */
+        static FOrvBox ToOrvBox(const FBox& Box);
+        static FBox ToFBox(const FOrvBox& Box);
 
-    /** Pixels copied as they lie in memory: both types are B, G, R, A bytes. */
-    static void ToOrvColors(const TArray<FColor>& Pixels, std::vector<FOrvColor>& Out);
-};
+        /** Pixels copied as they lie in memory: both types are B, G, R, A bytes. */
+        static void ToOrvColors(const TArray<FColor>& Pixels, std::vector<FOrvColor>& Out);
+    };
+} // namespace OrvWebBridge

@@ -6,24 +6,27 @@
 #include "Misc/DateTime.h"
 #include "Misc/Paths.h"
 
-std::string FOrvUnrealEnvironment::GetProjectDir() const
+namespace OrvWebBridge
 {
-    return FOrvUnrealConversions::ToUtf8(FPaths::ProjectDir());
-}
-
-std::optional<std::string> FOrvUnrealEnvironment::FindPluginVersion(std::string_view PluginName) const
-{
-    // The plugin manager knows plugins by their descriptor's file name, not their friendly name.
-    const TSharedPtr<IPlugin> Plugin =
-        IPluginManager::Get().FindPlugin(FOrvUnrealConversions::ToFString(PluginName));
-    if (!Plugin.IsValid())
+    std::string FOrvUnrealEnvironment::GetProjectDir() const
     {
-        return std::nullopt;
+        return FOrvUnrealConversions::ToUtf8(FPaths::ProjectDir());
     }
-    return FOrvUnrealConversions::ToUtf8(Plugin->GetDescriptor().VersionName);
-}
 
-std::string FOrvUnrealEnvironment::GetLocalDate() const
-{
-    return FOrvUnrealConversions::ToUtf8(FDateTime::Now().ToString(TEXT("%Y-%m-%d")));
-}
+    std::optional<std::string> FOrvUnrealEnvironment::FindPluginVersion(std::string_view PluginName) const
+    {
+        // The plugin manager knows plugins by their descriptor's file name, not their friendly name.
+        const TSharedPtr<IPlugin> Plugin =
+            IPluginManager::Get().FindPlugin(FOrvUnrealConversions::ToFString(PluginName));
+        if (!Plugin.IsValid())
+        {
+            return std::nullopt;
+        }
+        return FOrvUnrealConversions::ToUtf8(Plugin->GetDescriptor().VersionName);
+    }
+
+    std::string FOrvUnrealEnvironment::GetLocalDate() const
+    {
+        return FOrvUnrealConversions::ToUtf8(FDateTime::Now().ToString(TEXT("%Y-%m-%d")));
+    }
+} // namespace OrvWebBridge

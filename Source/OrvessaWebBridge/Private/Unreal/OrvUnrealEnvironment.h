@@ -4,11 +4,14 @@
 
 #include "Core/Ports/IOrvEnvironment.h"
 
-/** @brief IOrvEnvironment over FPaths, the plugin manager and the local clock. */
-class FOrvUnrealEnvironment final : public IOrvEnvironment
+namespace OrvWebBridge
 {
-public:
-    virtual std::string GetProjectDir() const override;
-    virtual std::optional<std::string> FindPluginVersion(std::string_view PluginName) const override;
-    virtual std::string GetLocalDate() const override;
-};
+    /** @brief IOrvEnvironment over FPaths, the plugin manager and the local clock. */
+    class FOrvUnrealEnvironment final : public IOrvEnvironment
+    {
+    public:
+        virtual std::string GetProjectDir() const override;
+        virtual std::optional<std::string> FindPluginVersion(std::string_view PluginName) const override;
+        virtual std::string GetLocalDate() const override;
+    };
+} // namespace OrvWebBridge

@@ -4,12 +4,15 @@
 
 #include "Core/Ports/IOrvFiles.h"
 
-/** @brief IOrvFiles over the desktop platform's save dialog and the file helper. */
-class FOrvUnrealFiles final : public IOrvFiles
+namespace OrvWebBridge
 {
-public:
-    virtual bool IsDesktopPlatformAvailable() const override;
-    virtual bool SaveFileDialog(const FOrvSaveDialogRequest& Request,
-                                std::vector<std::string>& OutFiles) override;
-    virtual bool SaveStringToFile(std::string_view Text, const std::string& FilePath) override;
-};
+    /** @brief IOrvFiles over the desktop platform's save dialog and the file helper. */
+    class FOrvUnrealFiles final : public IOrvFiles
+    {
+    public:
+        virtual bool IsDesktopPlatformAvailable() const override;
+        virtual bool SaveFileDialog(const FOrvSaveDialogRequest& Request,
+                                    std::vector<std::string>& OutFiles) override;
+        virtual bool SaveStringToFile(std::string_view Text, const std::string& FilePath) override;
+    };
+} // namespace OrvWebBridge

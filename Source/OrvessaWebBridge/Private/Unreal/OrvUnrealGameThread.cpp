@@ -2,12 +2,15 @@
 
 #include "Async/Async.h"
 
-void FOrvUnrealGameThread::Post(std::function<void()> Task)
+namespace OrvWebBridge
 {
-    if (!Task)
+    void FOrvUnrealGameThread::Post(std::function<void()> Task)
     {
-        return;
+        if (!Task)
+        {
+            return;
+        }
+        // Queued even when called on the game thread, so a completion never runs inside its caller.
+        AsyncTask(ENamedThreads::GameThread, [Task = MoveTemp(Task)]() { Task(); });
     }
-    // Queued even when called on the game thread, so a completion never runs inside its caller.
-    AsyncTask(ENamedThreads::GameThread, [Task = MoveTemp(Task)]() { Task(); });
-}
+} // namespace OrvWebBridge

@@ -4,9 +4,12 @@
 
 #include "Core/Ports/IOrvGameThread.h"
 
-/** @brief IOrvGameThread over AsyncTask(ENamedThreads::GameThread): the task runs on a later turn. */
-class FOrvUnrealGameThread final : public IOrvGameThread
+namespace OrvWebBridge
 {
-public:
-    virtual void Post(std::function<void()> Task) override;
-};
+    /** @brief IOrvGameThread over AsyncTask(ENamedThreads::GameThread): the task runs on a later turn. */
+    class FOrvUnrealGameThread final : public IOrvGameThread
+    {
+    public:
+        virtual void Post(std::function<void()> Task) override;
+    };
+} // namespace OrvWebBridge

@@ -9,30 +9,33 @@
 class AActor;
 class UStaticMesh;
 
-/**
- * @brief The core's opaque actor and mesh references, each backed by a weak pointer: a reference to
- * an actor that was destroyed or a mesh that was unloaded resolves to null instead of dangling.
- * The same object always gets the same reference. Shared by every adapter. Game thread only.
- */
-class FOrvUnrealHandles
+namespace OrvWebBridge
 {
-public:
-    FOrvActorRef ToActorRef(AActor* Actor);
-    AActor* ResolveActor(FOrvActorRef Ref) const;
-
-    FOrvMeshRef ToMeshRef(UStaticMesh* Mesh);
-    UStaticMesh* ResolveMesh(FOrvMeshRef Ref) const;
-
-private:
-    template <typename ObjectType> struct TTable
+    /**
+     * @brief The core's opaque actor and mesh references, each backed by a weak pointer: a reference to
+     * an actor that was destroyed or a mesh that was unloaded resolves to null instead of dangling.
+     * The same object always gets the same reference. Shared by every adapter. Game thread only.
+     */
+    class FOrvUnrealHandles
     {
-        TMap<uint64, TWeakObjectPtr<ObjectType>> Objects;
-        TMap<FObjectKey, uint64> Ids; ///< FObjectKey stays unique even after its object is gone
+    public:
+        FOrvActorRef ToActorRef(AActor* Actor);
+        AActor* ResolveActor(FOrvActorRef Ref) const;
+
+        FOrvMeshRef ToMeshRef(UStaticMesh* Mesh);
+        UStaticMesh* ResolveMesh(FOrvMeshRef Ref) const;
+
+    private:
+        template <typename ObjectType> struct TTable
+        {
+            TMap<uint64, TWeakObjectPtr<ObjectType>> Objects;
+            TMap<FObjectKey, uint64> Ids; ///< FObjectKey stays unique even after its object is gone
+        };
+
+        template <typename ObjectType> uint64 Assign(TTable<ObjectType>& Table, ObjectType* Object);
+
+        TTable<AActor> Actors;
+        TTable<UStaticMesh> Meshes;
+        uint64 NextId = 1; ///< zero means "none" to the core
     };
-
-    template <typename ObjectType> uint64 Assign(TTable<ObjectType>& Table, ObjectType* Object);
-
-    TTable<AActor> Actors;
-    TTable<UStaticMesh> Meshes;
-    uint64 NextId = 1; ///< zero means "none" to the core
-};
+} // namespace OrvWebBridge

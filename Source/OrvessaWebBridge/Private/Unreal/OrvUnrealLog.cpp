@@ -2,8 +2,10 @@
 
 #include "Unreal/OrvUnrealConversions.h"
 
-DEFINE_LOG_CATEGORY(LogOrvMcp);
-DEFINE_LOG_CATEGORY(LogOrvMcpHandler);
+namespace OrvWebBridge
+{
+    DEFINE_LOG_CATEGORY(LogOrvMcp);
+    DEFINE_LOG_CATEGORY(LogOrvMcpHandler);
 
 // UE_LOG takes its category and verbosity as tokens, so each pair needs its own expansion.
 #define ORV_UNREAL_LOG_AT(CategoryName)                                                                      \
@@ -26,21 +28,22 @@ DEFINE_LOG_CATEGORY(LogOrvMcpHandler);
         break;                                                                                               \
     }
 
-void FOrvUnrealLog::Log(EOrvLogCategory Category, EOrvLogVerbosity Verbosity, std::string_view Message)
-{
-    const FString Text = FOrvUnrealConversions::ToFString(Message);
-    switch (Category)
+    void FOrvUnrealLog::Log(EOrvLogCategory Category, EOrvLogVerbosity Verbosity, std::string_view Message)
     {
-    case EOrvLogCategory::LogOrvMcp:
-        ORV_UNREAL_LOG_AT(LogOrvMcp);
-        break;
-    case EOrvLogCategory::LogOrvMcpHandler:
-        ORV_UNREAL_LOG_AT(LogOrvMcpHandler);
-        break;
-    case EOrvLogCategory::LogTemp:
-        ORV_UNREAL_LOG_AT(LogTemp);
-        break;
+        const FString Text = FOrvUnrealConversions::ToFString(Message);
+        switch (Category)
+        {
+        case EOrvLogCategory::LogOrvMcp:
+            ORV_UNREAL_LOG_AT(LogOrvMcp);
+            break;
+        case EOrvLogCategory::LogOrvMcpHandler:
+            ORV_UNREAL_LOG_AT(LogOrvMcpHandler);
+            break;
+        case EOrvLogCategory::LogTemp:
+            ORV_UNREAL_LOG_AT(LogTemp);
+            break;
+        }
     }
-}
 
 #undef ORV_UNREAL_LOG_AT
+} // namespace OrvWebBridge

@@ -4,29 +4,33 @@
 
 #include "Editor.h"
 
-void FOrvUnrealSelection::SelectNone()
+namespace OrvWebBridge
 {
-    if (GEditor)
+    void FOrvUnrealSelection::SelectNone()
     {
-        GEditor->SelectNone(/*bNoteSelectionChange=*/false, /*bDeselectBSPSurfs=*/true,
-                            /*WarnAboutManyActors=*/false);
+        if (GEditor)
+        {
+            GEditor->SelectNone(/*bNoteSelectionChange=*/false, /*bDeselectBSPSurfs=*/true,
+                                /*WarnAboutManyActors=*/false);
+        }
     }
-}
 
-void FOrvUnrealSelection::SelectActor(FOrvActorRef Actor)
-{
-    AActor* Resolved = Handles.ResolveActor(Actor);
-    if (GEditor && Resolved)
+    void FOrvUnrealSelection::SelectActor(FOrvActorRef Actor)
     {
-        // Actors hidden for the session are only selected when asked to select even if hidden.
-        GEditor->SelectActor(Resolved, /*bInSelected=*/true, /*bNotify=*/false, /*bSelectEvenIfHidden=*/true);
+        AActor* Resolved = Handles.ResolveActor(Actor);
+        if (GEditor && Resolved)
+        {
+            // Actors hidden for the session are only selected when asked to select even if hidden.
+            GEditor->SelectActor(Resolved, /*bInSelected=*/true, /*bNotify=*/false,
+                                 /*bSelectEvenIfHidden=*/true);
+        }
     }
-}
 
-void FOrvUnrealSelection::NoteSelectionChange()
-{
-    if (GEditor)
+    void FOrvUnrealSelection::NoteSelectionChange()
     {
-        GEditor->NoteSelectionChange();
+        if (GEditor)
+        {
+            GEditor->NoteSelectionChange();
+        }
     }
-}
+} // namespace OrvWebBridge

@@ -4,18 +4,21 @@
 
 #include "Core/Ports/IOrvEditorSelection.h"
 
-class FOrvUnrealHandles;
-
-/** @brief IOrvEditorSelection over GEditor: batch changes without notifying, then notify once. */
-class FOrvUnrealSelection final : public IOrvEditorSelection
+namespace OrvWebBridge
 {
-public:
-    explicit FOrvUnrealSelection(FOrvUnrealHandles& InHandles) : Handles(InHandles) {}
+    class FOrvUnrealHandles;
 
-    virtual void SelectNone() override;
-    virtual void SelectActor(FOrvActorRef Actor) override;
-    virtual void NoteSelectionChange() override;
+    /** @brief IOrvEditorSelection over GEditor: batch changes without notifying, then notify once. */
+    class FOrvUnrealSelection final : public IOrvEditorSelection
+    {
+    public:
+        explicit FOrvUnrealSelection(FOrvUnrealHandles& InHandles) : Handles(InHandles) {}
 
-private:
-    FOrvUnrealHandles& Handles;
-};
+        virtual void SelectNone() override;
+        virtual void SelectActor(FOrvActorRef Actor) override;
+        virtual void NoteSelectionChange() override;
+
+    private:
+        FOrvUnrealHandles& Handles;
+    };
+} // namespace OrvWebBridge

@@ -7,42 +7,45 @@
 // The import module's asset user data class (module OrvImport; it must export StaticClass).
 #include "OrvProductData.h"
 
-bool FOrvUnrealStaticMeshes::IsMeshAlive(FOrvMeshRef Mesh) const
+namespace OrvWebBridge
 {
-    return Handles.ResolveMesh(Mesh) != nullptr;
-}
-
-std::string FOrvUnrealStaticMeshes::GetMeshName(FOrvMeshRef Mesh) const
-{
-    const UStaticMesh* Resolved = Handles.ResolveMesh(Mesh);
-    return Resolved ? FOrvUnrealConversions::ToUtf8(Resolved->GetName()) : std::string();
-}
-
-std::string FOrvUnrealStaticMeshes::GetMeshPathName(FOrvMeshRef Mesh) const
-{
-    const UStaticMesh* Resolved = Handles.ResolveMesh(Mesh);
-    return Resolved ? FOrvUnrealConversions::ToUtf8(Resolved->GetPathName()) : std::string();
-}
-
-FOrvBox FOrvUnrealStaticMeshes::GetBoundingBox(FOrvMeshRef Mesh) const
-{
-    // The engine's box includes the mesh's bounds-extension settings.
-    const UStaticMesh* Resolved = Handles.ResolveMesh(Mesh);
-    return Resolved ? FOrvUnrealConversions::ToOrvBox(Resolved->GetBoundingBox()) : FOrvBox();
-}
-
-std::optional<FOrvProductTag> FOrvUnrealStaticMeshes::GetProductTag(FOrvMeshRef Mesh) const
-{
-    UStaticMesh* Resolved = Handles.ResolveMesh(Mesh);
-    if (!Resolved)
+    bool FOrvUnrealStaticMeshes::IsMeshAlive(FOrvMeshRef Mesh) const
     {
-        return std::nullopt;
+        return Handles.ResolveMesh(Mesh) != nullptr;
     }
-    const UOrvProductData* Tag =
-        Cast<UOrvProductData>(Resolved->GetAssetUserDataOfClass(UOrvProductData::StaticClass()));
-    if (!Tag)
+
+    std::string FOrvUnrealStaticMeshes::GetMeshName(FOrvMeshRef Mesh) const
     {
-        return std::nullopt;
+        const UStaticMesh* Resolved = Handles.ResolveMesh(Mesh);
+        return Resolved ? FOrvUnrealConversions::ToUtf8(Resolved->GetName()) : std::string();
     }
-    return FOrvProductTag{FOrvUnrealConversions::ToUtf8(Tag->ProductID), Tag->IsValid()};
-}
+
+    std::string FOrvUnrealStaticMeshes::GetMeshPathName(FOrvMeshRef Mesh) const
+    {
+        const UStaticMesh* Resolved = Handles.ResolveMesh(Mesh);
+        return Resolved ? FOrvUnrealConversions::ToUtf8(Resolved->GetPathName()) : std::string();
+    }
+
+    FOrvBox FOrvUnrealStaticMeshes::GetBoundingBox(FOrvMeshRef Mesh) const
+    {
+        // The engine's box includes the mesh's bounds-extension settings.
+        const UStaticMesh* Resolved = Handles.ResolveMesh(Mesh);
+        return Resolved ? FOrvUnrealConversions::ToOrvBox(Resolved->GetBoundingBox()) : FOrvBox();
+    }
+
+    std::optional<FOrvProductTag> FOrvUnrealStaticMeshes::GetProductTag(FOrvMeshRef Mesh) const
+    {
+        UStaticMesh* Resolved = Handles.ResolveMesh(Mesh);
+        if (!Resolved)
+        {
+            return std::nullopt;
+        }
+        const UOrvProductData* Tag =
+            Cast<UOrvProductData>(Resolved->GetAssetUserDataOfClass(UOrvProductData::StaticClass()));
+        if (!Tag)
+        {
+            return std::nullopt;
+        }
+        return FOrvProductTag{FOrvUnrealConversions::ToUtf8(Tag->ProductID), Tag->IsValid()};
+    }
+} // namespace OrvWebBridge

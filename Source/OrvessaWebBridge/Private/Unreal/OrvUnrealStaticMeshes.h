@@ -4,20 +4,23 @@
 
 #include "Core/Ports/IOrvAssetRegistry.h"
 
-class FOrvUnrealHandles;
-
-/** @brief IOrvStaticMeshes over loaded UStaticMesh objects and their product tag. */
-class FOrvUnrealStaticMeshes final : public IOrvStaticMeshes
+namespace OrvWebBridge
 {
-public:
-    explicit FOrvUnrealStaticMeshes(FOrvUnrealHandles& InHandles) : Handles(InHandles) {}
+    class FOrvUnrealHandles;
 
-    virtual bool IsMeshAlive(FOrvMeshRef Mesh) const override;
-    virtual std::string GetMeshName(FOrvMeshRef Mesh) const override;
-    virtual std::string GetMeshPathName(FOrvMeshRef Mesh) const override;
-    virtual FOrvBox GetBoundingBox(FOrvMeshRef Mesh) const override;
-    virtual std::optional<FOrvProductTag> GetProductTag(FOrvMeshRef Mesh) const override;
+    /** @brief IOrvStaticMeshes over loaded UStaticMesh objects and their product tag. */
+    class FOrvUnrealStaticMeshes final : public IOrvStaticMeshes
+    {
+    public:
+        explicit FOrvUnrealStaticMeshes(FOrvUnrealHandles& InHandles) : Handles(InHandles) {}
 
-private:
-    FOrvUnrealHandles& Handles;
-};
+        virtual bool IsMeshAlive(FOrvMeshRef Mesh) const override;
+        virtual std::string GetMeshName(FOrvMeshRef Mesh) const override;
+        virtual std::string GetMeshPathName(FOrvMeshRef Mesh) const override;
+        virtual FOrvBox GetBoundingBox(FOrvMeshRef Mesh) const override;
+        virtual std::optional<FOrvProductTag> GetProductTag(FOrvMeshRef Mesh) const override;
+
+    private:
+        FOrvUnrealHandles& Handles;
+    };
+} // namespace OrvWebBridge

@@ -8,28 +8,31 @@
 
 class UWorld;
 
-/**
- * @brief IOrvTimers over the editor world's timer manager. A timer dies with its world (a map load
- * cancels it); the adapter clears every pending timer when it is destroyed, so no callback outlives it.
- */
-class FOrvUnrealTimers final : public IOrvTimers
+namespace OrvWebBridge
 {
-public:
-    FOrvUnrealTimers() = default;
-    virtual ~FOrvUnrealTimers() override;
-
-    virtual FOrvTimerHandle SetTimer(double DelaySeconds, std::function<void()> Callback) override;
-    virtual void ClearTimer(FOrvTimerHandle& Handle) override;
-
-private:
-    struct FPendingTimer
+    /**
+     * @brief IOrvTimers over the editor world's timer manager. A timer dies with its world (a map load
+     * cancels it); the adapter clears every pending timer when it is destroyed, so no callback outlives it.
+     */
+    class FOrvUnrealTimers final : public IOrvTimers
     {
-        TWeakObjectPtr<UWorld> World;
-        FTimerHandle EngineHandle;
+    public:
+        FOrvUnrealTimers() = default;
+        virtual ~FOrvUnrealTimers() override;
+
+        virtual FOrvTimerHandle SetTimer(double DelaySeconds, std::function<void()> Callback) override;
+        virtual void ClearTimer(FOrvTimerHandle& Handle) override;
+
+    private:
+        struct FPendingTimer
+        {
+            TWeakObjectPtr<UWorld> World;
+            FTimerHandle EngineHandle;
+        };
+
+        void ClearEngineTimer(FPendingTimer& Timer);
+
+        TMap<uint64, FPendingTimer> Pending;
+        uint64 NextId = 1;
     };
-
-    void ClearEngineTimer(FPendingTimer& Timer);
-
-    TMap<uint64, FPendingTimer> Pending;
-    uint64 NextId = 1;
-};
+} // namespace OrvWebBridge

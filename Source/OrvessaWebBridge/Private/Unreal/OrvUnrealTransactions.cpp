@@ -4,29 +4,32 @@
 
 #include "ScopedTransaction.h"
 
-FOrvUnrealTransactions::FOrvUnrealTransactions() = default;
-
-FOrvUnrealTransactions::~FOrvUnrealTransactions()
+namespace OrvWebBridge
 {
-    while (Open.Num() > 0)
+    FOrvUnrealTransactions::FOrvUnrealTransactions() = default;
+
+    FOrvUnrealTransactions::~FOrvUnrealTransactions()
     {
-        EndTransaction();
+        while (Open.Num() > 0)
+        {
+            EndTransaction();
+        }
     }
-}
 
-void FOrvUnrealTransactions::BeginTransaction(std::string_view Description)
-{
-    check(IsInGameThread());
-    Open.Push(
-        MakeUnique<FScopedTransaction>(FText::FromString(FOrvUnrealConversions::ToFString(Description))));
-}
-
-void FOrvUnrealTransactions::EndTransaction()
-{
-    check(IsInGameThread());
-    if (Open.Num() > 0)
+    void FOrvUnrealTransactions::BeginTransaction(std::string_view Description)
     {
-        // Destroying the scope is what ends the transaction.
-        Open.RemoveAt(Open.Num() - 1);
+        check(IsInGameThread());
+        Open.Push(
+            MakeUnique<FScopedTransaction>(FText::FromString(FOrvUnrealConversions::ToFString(Description))));
     }
-}
+
+    void FOrvUnrealTransactions::EndTransaction()
+    {
+        check(IsInGameThread());
+        if (Open.Num() > 0)
+        {
+            // Destroying the scope is what ends the transaction.
+            Open.RemoveAt(Open.Num() - 1);
+        }
+    }
+} // namespace OrvWebBridge

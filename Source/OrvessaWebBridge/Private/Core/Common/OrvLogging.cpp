@@ -2,43 +2,46 @@
 
 #include <cstdio>
 
-void OrvLogf(IOrvLog& Log, EOrvLogCategory Category, EOrvLogVerbosity Verbosity, const char* Format, ...)
+namespace OrvWebBridge
 {
-    va_list Args;
-    va_start(Args, Format);
-    const std::string Message = FOrvStrings::VPrintf(Format, Args);
-    va_end(Args);
-    Log.Log(Category, Verbosity, Message);
-}
-
-const char* OrvLogCategoryName(EOrvLogCategory Category)
-{
-    switch (Category)
+    void OrvLogf(IOrvLog& Log, EOrvLogCategory Category, EOrvLogVerbosity Verbosity, const char* Format, ...)
     {
-    case EOrvLogCategory::LogOrvMcp:
-        return "LogOrvMcp";
-    case EOrvLogCategory::LogOrvMcpHandler:
-        return "LogOrvMcpHandler";
-    case EOrvLogCategory::LogTemp:
+        va_list Args;
+        va_start(Args, Format);
+        const std::string Message = FOrvStrings::VPrintf(Format, Args);
+        va_end(Args);
+        Log.Log(Category, Verbosity, Message);
+    }
+
+    const char* OrvLogCategoryName(EOrvLogCategory Category)
+    {
+        switch (Category)
+        {
+        case EOrvLogCategory::LogOrvMcp:
+            return "LogOrvMcp";
+        case EOrvLogCategory::LogOrvMcpHandler:
+            return "LogOrvMcpHandler";
+        case EOrvLogCategory::LogTemp:
+            return "LogTemp";
+        }
         return "LogTemp";
     }
-    return "LogTemp";
-}
 
-const char* OrvLogVerbosityName(EOrvLogVerbosity Verbosity)
-{
-    switch (Verbosity)
+    const char* OrvLogVerbosityName(EOrvLogVerbosity Verbosity)
     {
-    case EOrvLogVerbosity::Error:
-        return "Error";
-    case EOrvLogVerbosity::Warning:
-        return "Warning";
-    case EOrvLogVerbosity::Display:
-        return "Display";
-    case EOrvLogVerbosity::Log:
+        switch (Verbosity)
+        {
+        case EOrvLogVerbosity::Error:
+            return "Error";
+        case EOrvLogVerbosity::Warning:
+            return "Warning";
+        case EOrvLogVerbosity::Display:
+            return "Display";
+        case EOrvLogVerbosity::Log:
+            return "Log";
+        case EOrvLogVerbosity::Verbose:
+            return "Verbose";
+        }
         return "Log";
-    case EOrvLogVerbosity::Verbose:
-        return "Verbose";
     }
-    return "Log";
-}
+} // namespace OrvWebBridge

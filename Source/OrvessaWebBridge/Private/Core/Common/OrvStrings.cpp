@@ -3,216 +3,222 @@
 #include <cstdarg>
 #include <cstdio>
 
-namespace
+namespace OrvWebBridge
 {
-    char OrvFoldLower(char Character)
+    namespace
     {
-        return (Character >= 'A' && Character <= 'Z') ? static_cast<char>(Character - 'A' + 'a') : Character;
-    }
+        char OrvFoldLower(char Character)
+        {
+            return (Character >= 'A' && Character <= 'Z') ? static_cast<char>(Character - 'A' + 'a')
+                                                          : Character;
+        }
 
-    // Length of the well-formed UTF-8 sequence at Bytes[Index], or 0 when it is malformed.
-    std::size_t OrvUtf8SequenceLength(std::string_view Bytes, std::size_t Index)
-    {
-        const auto Byte = [&](std::size_t At) { return static_cast<unsigned char>(Bytes[At]); };
-        const unsigned char Lead = Byte(Index);
-        if (Lead < 0x80)
+        // Length of the well-formed UTF-8 sequence at Bytes[Index], or 0 when it is malformed.
+        std::size_t OrvUtf8SequenceLength(std::string_view Bytes, std::size_t Index)
         {
-            return 1;
-        }
-        std::size_t Length = 0;
-        unsigned char Low = 0x80;
-        unsigned char High = 0xBF;
-        if (Lead >= 0xC2 && Lead <= 0xDF)
-        {
-            Length = 2;
-        }
-        else if (Lead >= 0xE0 && Lead <= 0xEF)
-        {
-            Length = 3;
-            Low = Lead == 0xE0 ? 0xA0 : 0x80;
-            High = Lead == 0xED ? 0x9F : 0xBF;
-        }
-        else if (Lead >= 0xF0 && Lead <= 0xF4)
-        {
-            Length = 4;
-            Low = Lead == 0xF0 ? 0x90 : 0x80;
-            High = Lead == 0xF4 ? 0x8F : 0xBF;
-        }
-        else
-        {
-            return 0;
-        }
-        if (Index + Length > Bytes.size())
-        {
-            return 0;
-        }
-        if (Byte(Index + 1) < Low || Byte(Index + 1) > High)
-        {
-            return 0;
-        }
-        for (std::size_t Offset = 2; Offset < Length; ++Offset)
-        {
-            if (Byte(Index + Offset) < 0x80 || Byte(Index + Offset) > 0xBF)
+            const auto Byte = [&](std::size_t At) { return static_cast<unsigned char>(Bytes[At]); };
+            const unsigned char Lead = Byte(Index);
+            if (Lead < 0x80)
+            {
+                return 1;
+            }
+            std::size_t Length = 0;
+            unsigned char Low = 0x80;
+            unsigned char High = 0xBF;
+            if (Lead >= 0xC2 && Lead <= 0xDF)
+            {
+                Length = 2;
+            }
+            else if (Lead >= 0xE0 && Lead <= 0xEF)
+            {
+                Length = 3;
+                Low = Lead == 0xE0 ? 0xA0 : 0x80;
+                High = Lead == 0xED ? 0x9F : 0xBF;
+            }
+            else if (Lead >= 0xF0 && Lead <= 0xF4)
+            {
+                Length = 4;
+                Low = Lead == 0xF0 ? 0x90 : 0x80;
+                High = Lead == 0xF4 ? 0x8F : 0xBF;
+            }
+            else
             {
                 return 0;
             }
+            if (Index + Length > Bytes.size())
+            {
+                return 0;
+            }
+            if (Byte(Index + 1) < Low || Byte(Index + 1) > High)
+            {
+                return 0;
+            }
+            for (std::size_t Offset = 2; Offset < Length; ++Offset)
+            {
+                if (Byte(Index + Offset) < 0x80 || Byte(Index + Offset) > 0xBF)
+                {
+                    return 0;
+                }
+            }
+            return Length;
         }
-        return Length;
-    }
-} // namespace
+    } // namespace
 
-bool FOrvStrings::EqualsIgnoreCase(std::string_view A, std::string_view B)
-{
-    if (A.size() != B.size())
+    bool FOrvStrings::EqualsIgnoreCase(std::string_view A, std::string_view B)
     {
-        return false;
-    }
-    for (std::size_t Index = 0; Index < A.size(); ++Index)
-    {
-        if (OrvFoldLower(A[Index]) != OrvFoldLower(B[Index]))
+        if (A.size() != B.size())
         {
             return false;
         }
-    }
-    return true;
-}
-
-bool FOrvStrings::StartsWithIgnoreCase(std::string_view Text, std::string_view Prefix)
-{
-    return Text.size() >= Prefix.size() && EqualsIgnoreCase(Text.substr(0, Prefix.size()), Prefix);
-}
-
-bool FOrvStrings::EndsWithIgnoreCase(std::string_view Text, std::string_view Suffix)
-{
-    return Text.size() >= Suffix.size() && EqualsIgnoreCase(Text.substr(Text.size() - Suffix.size()), Suffix);
-}
-
-bool FOrvStrings::ContainsIgnoreCase(std::string_view Text, std::string_view Needle)
-{
-    if (Needle.size() > Text.size())
-    {
-        return false;
-    }
-    for (std::size_t Start = 0; Start + Needle.size() <= Text.size(); ++Start)
-    {
-        if (EqualsIgnoreCase(Text.substr(Start, Needle.size()), Needle))
+        for (std::size_t Index = 0; Index < A.size(); ++Index)
         {
-            return true;
+            if (OrvFoldLower(A[Index]) != OrvFoldLower(B[Index]))
+            {
+                return false;
+            }
         }
+        return true;
     }
-    return false;
-}
 
-int FOrvStrings::CompareIgnoreCase(std::string_view A, std::string_view B)
-{
-    const std::size_t Common = A.size() < B.size() ? A.size() : B.size();
-    for (std::size_t Index = 0; Index < Common; ++Index)
+    bool FOrvStrings::StartsWithIgnoreCase(std::string_view Text, std::string_view Prefix)
     {
-        const unsigned char Left = static_cast<unsigned char>(OrvFoldLower(A[Index]));
-        const unsigned char Right = static_cast<unsigned char>(OrvFoldLower(B[Index]));
-        if (Left != Right)
-        {
-            return Left < Right ? -1 : 1;
-        }
+        return Text.size() >= Prefix.size() && EqualsIgnoreCase(Text.substr(0, Prefix.size()), Prefix);
     }
-    if (A.size() == B.size())
-    {
-        return 0;
-    }
-    return A.size() < B.size() ? -1 : 1;
-}
 
-std::string FOrvStrings::Printf(const char* Format, ...)
-{
-    va_list Args;
-    va_start(Args, Format);
-    std::string Result = VPrintf(Format, Args);
-    va_end(Args);
-    return Result;
-}
+    bool FOrvStrings::EndsWithIgnoreCase(std::string_view Text, std::string_view Suffix)
+    {
+        return Text.size() >= Suffix.size() &&
+               EqualsIgnoreCase(Text.substr(Text.size() - Suffix.size()), Suffix);
+    }
 
-std::string FOrvStrings::VPrintf(const char* Format, va_list Args)
-{
-    va_list Copy;
-    va_copy(Copy, Args);
-    const int Needed = std::vsnprintf(nullptr, 0, Format, Copy);
-    va_end(Copy);
-    std::string Result;
-    if (Needed > 0)
+    bool FOrvStrings::ContainsIgnoreCase(std::string_view Text, std::string_view Needle)
     {
-        Result.resize(static_cast<std::size_t>(Needed));
-        std::vsnprintf(Result.data(), Result.size() + 1, Format, Args);
-    }
-    return Result;
-}
-
-std::string FOrvStrings::ReplaceAll(std::string_view Text, std::string_view From, std::string_view To)
-{
-    if (From.empty())
-    {
-        return std::string(Text);
-    }
-    std::string Result;
-    Result.reserve(Text.size());
-    std::size_t Start = 0;
-    for (std::size_t Found = Text.find(From); Found != std::string_view::npos; Found = Text.find(From, Start))
-    {
-        Result.append(Text.substr(Start, Found - Start));
-        Result.append(To);
-        Start = Found + From.size();
-    }
-    Result.append(Text.substr(Start));
-    return Result;
-}
-
-std::string_view FOrvStrings::Trim(std::string_view Text)
-{
-    const auto IsBlank = [](char Character)
-    { return Character == ' ' || Character == '\t' || Character == '\r' || Character == '\n'; };
-    while (!Text.empty() && IsBlank(Text.front()))
-    {
-        Text.remove_prefix(1);
-    }
-    while (!Text.empty() && IsBlank(Text.back()))
-    {
-        Text.remove_suffix(1);
-    }
-    return Text;
-}
-
-bool FOrvStrings::IsValidUtf8(std::string_view Bytes)
-{
-    for (std::size_t Index = 0; Index < Bytes.size();)
-    {
-        const std::size_t Length = OrvUtf8SequenceLength(Bytes, Index);
-        if (Length == 0)
+        if (Needle.size() > Text.size())
         {
             return false;
         }
-        Index += Length;
-    }
-    return true;
-}
-
-std::string FOrvStrings::SanitizeUtf8(std::string_view Bytes)
-{
-    if (IsValidUtf8(Bytes))
-    {
-        return std::string(Bytes);
-    }
-    std::string Result;
-    Result.reserve(Bytes.size() + 8);
-    for (std::size_t Index = 0; Index < Bytes.size();)
-    {
-        const std::size_t Length = OrvUtf8SequenceLength(Bytes, Index);
-        if (Length == 0)
+        for (std::size_t Start = 0; Start + Needle.size() <= Text.size(); ++Start)
         {
-            Result.append("\xEF\xBF\xBD");
-            ++Index;
-            continue;
+            if (EqualsIgnoreCase(Text.substr(Start, Needle.size()), Needle))
+            {
+                return true;
+            }
         }
-        Result.append(Bytes.substr(Index, Length));
-        Index += Length;
+        return false;
     }
-    return Result;
-}
+
+    int FOrvStrings::CompareIgnoreCase(std::string_view A, std::string_view B)
+    {
+        const std::size_t Common = A.size() < B.size() ? A.size() : B.size();
+        for (std::size_t Index = 0; Index < Common; ++Index)
+        {
+            const unsigned char Left = static_cast<unsigned char>(OrvFoldLower(A[Index]));
+            const unsigned char Right = static_cast<unsigned char>(OrvFoldLower(B[Index]));
+            if (Left != Right)
+            {
+                return Left < Right ? -1 : 1;
+            }
+        }
+        if (A.size() == B.size())
+        {
+            return 0;
+        }
+        return A.size() < B.size() ? -1 : 1;
+    }
+
+    std::string FOrvStrings::Printf(const char* Format, ...)
+    {
+        va_list Args;
+        va_start(Args, Format);
+        std::string Result = VPrintf(Format, Args);
+        va_end(Args);
+        return Result;
+    }
+
+    std::string FOrvStrings::VPrintf(const char* Format, va_list Args)
+    {
+        va_list Copy;
+        va_copy(Copy, Args);
+        const int Needed = std::vsnprintf(nullptr, 0, Format, Copy);
+        va_end(Copy);
+        std::string Result;
+        if (Needed > 0)
+        {
+            Result.resize(static_cast<std::size_t>(Needed));
+            std::vsnprintf(Result.data(), Result.size() + 1, Format, Args);
+        }
+        return Result;
+    }
+
+    std::string FOrvStrings::ReplaceAll(std::string_view Text, std::string_view From, std::string_view To)
+    {
+        if (From.empty())
+        {
+            return std::string(Text);
+        }
+        std::string Result;
+        Result.reserve(Text.size());
+        std::size_t Start = 0;
+        for (std::size_t Found = Text.find(From); Found != std::string_view::npos;
+             Found = Text.find(From, Start))
+        {
+            Result.append(Text.substr(Start, Found - Start));
+            Result.append(To);
+            Start = Found + From.size();
+        }
+        Result.append(Text.substr(Start));
+        return Result;
+    }
+
+    std::string_view FOrvStrings::Trim(std::string_view Text)
+    {
+        const auto IsBlank = [](char Character)
+        { return Character == ' ' || Character == '\t' || Character == '\r' || Character == '\n'; };
+        while (!Text.empty() && IsBlank(Text.front()))
+        {
+            Text.remove_prefix(1);
+        }
+        while (!Text.empty() && IsBlank(Text.back()))
+        {
+            Text.remove_suffix(1);
+        }
+        return Text;
+    }
+
+    bool FOrvStrings::IsValidUtf8(std::string_view Bytes)
+    {
+        for (std::size_t Index = 0; Index < Bytes.size();)
+        {
+            const std::size_t Length = OrvUtf8SequenceLength(Bytes, Index);
+            if (Length == 0)
+            {
+                return false;
+            }
+            Index += Length;
+        }
+        return true;
+    }
+
+    std::string FOrvStrings::SanitizeUtf8(std::string_view Bytes)
+    {
+        if (IsValidUtf8(Bytes))
+        {
+            return std::string(Bytes);
+        }
+        std::string Result;
+        Result.reserve(Bytes.size() + 8);
+        for (std::size_t Index = 0; Index < Bytes.size();)
+        {
+            const std::size_t Length = OrvUtf8SequenceLength(Bytes, Index);
+            if (Length == 0)
+            {
+                Result.append("\xEF\xBF\xBD");
+                ++Index;
+                continue;
+            }
+            Result.append(Bytes.substr(Index, Length));
+            Index += Length;
+        }
+        return Result;
+    }
+} // namespace OrvWebBridge

@@ -9,16 +9,19 @@
 #include "Core/Ports/IOrvTransactions.h"
 #include "Core/Ports/IOrvViewport.h"
 
-/** @brief The editor as the AI tools see it: every engine call they make goes through one of these. */
-struct FOrvMcpPorts
+namespace OrvWebBridge
 {
-    IOrvEditorWorld& World;
-    IOrvActorEditing& Editing;
-    IOrvTransactions& Transactions;
-    IOrvAssetRegistry& Assets;
-    IOrvStaticMeshes& Meshes;
-    IOrvViewport& Viewport;
-    IOrvImageWrapperModule& Images;
-    IOrvGameThread& GameThread;
-    IOrvLog& Log;
-};
+    /** @brief The editor as the AI tools see it: every engine call they make goes through one of these. */
+    struct FOrvMcpPorts
+    {
+        IOrvEditorWorld& World;
+        IOrvActorEditing& Editing;
+        IOrvTransactions& Transactions;
+        IOrvAssetRegistry& Assets;
+        IOrvStaticMeshes& Meshes;
+        IOrvViewport& Viewport;
+        IOrvImageWrapperModule& Images;
+        IOrvGameThread& GameThread;
+        IOrvLog& Log;
+    };
+} // namespace OrvWebBridge

@@ -8,45 +8,48 @@
 #include <memory>
 #include <vector>
 
-class FOrvMcpHandler;
-
-/**
- * @brief The local MCP endpoint: binds GET /health, GET /sse, POST /sse and POST /mcp on one port of
- * the HTTP server and answers POSTs with the shared handler's JSON-RPC text. Game thread.
- *
- * No streaming, session or origin check: GET /sse answers one endpoint event and closes, and every
- * JSON-RPC response allows any origin. Copies share the router.
- */
-class FOrvMcpServer
+namespace OrvWebBridge
 {
-public:
-    /** Yields the one process-wide handler, making it on first use. */
-    using FOrvHandlerAccessor = std::function<FOrvMcpHandler&()>;
+    class FOrvMcpHandler;
 
-    FOrvMcpServer(IOrvHttpServerModule& InHttpServer, IOrvLog& InLog, FOrvHandlerAccessor InGetHandler);
-    ~FOrvMcpServer();
+    /**
+     * @brief The local MCP endpoint: binds GET /health, GET /sse, POST /sse and POST /mcp on one port of
+     * the HTTP server and answers POSTs with the shared handler's JSON-RPC text. Game thread.
+     *
+     * No streaming, session or origin check: GET /sse answers one endpoint event and closes, and every
+     * JSON-RPC response allows any origin. Copies share the router.
+     */
+    class FOrvMcpServer
+    {
+    public:
+        /** Yields the one process-wide handler, making it on first use. */
+        using FOrvHandlerAccessor = std::function<FOrvMcpHandler&()>;
 
-    FOrvMcpServer(const FOrvMcpServer&) = default;
-    FOrvMcpServer& operator=(const FOrvMcpServer&) = delete;
+        FOrvMcpServer(IOrvHttpServerModule& InHttpServer, IOrvLog& InLog, FOrvHandlerAccessor InGetHandler);
+        ~FOrvMcpServer();
 
-    /** Starts listening on InPort; true when running afterwards. A running server keeps its port. */
-    bool Start(std::uint32_t InPort);
+        FOrvMcpServer(const FOrvMcpServer&) = default;
+        FOrvMcpServer& operator=(const FOrvMcpServer&) = delete;
 
-    /** Unbinds the routes and stops every listener of the process; nothing when already stopped. */
-    void Stop();
+        /** Starts listening on InPort; true when running afterwards. A running server keeps its port. */
+        bool Start(std::uint32_t InPort);
 
-    std::uint32_t GetPort() const { return Port; }
-    bool IsRunning() const { return bRunning; }
+        /** Unbinds the routes and stops every listener of the process; nothing when already stopped. */
+        void Stop();
 
-private:
-    void RegisterRoutes();
+        std::uint32_t GetPort() const { return Port; }
+        bool IsRunning() const { return bRunning; }
 
-    IOrvHttpServerModule& HttpServer;
-    IOrvLog& Log;
-    FOrvHandlerAccessor GetHandler;
+    private:
+        void RegisterRoutes();
 
-    std::shared_ptr<IOrvHttpRouter> Router;
-    std::vector<FOrvHttpRouteHandle> RouteHandles;
-    std::uint32_t Port = 0;
-    bool bRunning = false;
-};
+        IOrvHttpServerModule& HttpServer;
+        IOrvLog& Log;
+        FOrvHandlerAccessor GetHandler;
+
+        std::shared_ptr<IOrvHttpRouter> Router;
+        std::vector<FOrvHttpRouteHandle> RouteHandles;
+        std::uint32_t Port = 0;
+        bool bRunning = false;
+    };
+} // namespace OrvWebBridge

@@ -1,41 +1,44 @@
 #include "Core/Outliner/OrvOutlinerExportDialogModel.h"
 
-FOrvOutlinerExportDialogModel::FOrvOutlinerExportDialogModel(std::string DefaultProjectName,
-                                                             FOnExport InOnExport)
-    : ProjectName(std::move(DefaultProjectName)), OnExport(std::move(InOnExport))
+namespace OrvWebBridge
 {
-}
+    FOrvOutlinerExportDialogModel::FOrvOutlinerExportDialogModel(std::string DefaultProjectName,
+                                                                 FOnExport InOnExport)
+        : ProjectName(std::move(DefaultProjectName)), OnExport(std::move(InOnExport))
+    {
+    }
 
-void FOrvOutlinerExportDialogModel::OnExportClicked()
-{
-    // A second click while the window closes must not export twice.
-    if (!bIsOpen)
+    void FOrvOutlinerExportDialogModel::OnExportClicked()
     {
-        return;
+        // A second click while the window closes must not export twice.
+        if (!bIsOpen)
+        {
+            return;
+        }
+        const std::string FinalProjectName = ProjectName.empty() ? FallbackProjectName : ProjectName;
+        const std::string FinalRevision = Revision.empty() ? InitialRevision : Revision;
+        if (OnExport)
+        {
+            OnExport(FinalProjectName, FinalRevision);
+        }
+        Close();
     }
-    const std::string FinalProjectName = ProjectName.empty() ? FallbackProjectName : ProjectName;
-    const std::string FinalRevision = Revision.empty() ? InitialRevision : Revision;
-    if (OnExport)
-    {
-        OnExport(FinalProjectName, FinalRevision);
-    }
-    Close();
-}
 
-void FOrvOutlinerExportDialogModel::OnCancelClicked()
-{
-    Close();
-}
+    void FOrvOutlinerExportDialogModel::OnCancelClicked()
+    {
+        Close();
+    }
 
-void FOrvOutlinerExportDialogModel::Close()
-{
-    if (!bIsOpen)
+    void FOrvOutlinerExportDialogModel::Close()
     {
-        return;
+        if (!bIsOpen)
+        {
+            return;
+        }
+        bIsOpen = false;
+        if (RequestClose)
+        {
+            RequestClose();
+        }
     }
-    bIsOpen = false;
-    if (RequestClose)
-    {
-        RequestClose();
-    }
-}
+} // namespace OrvWebBridge

@@ -7,41 +7,45 @@
 #include <string_view>
 #include <vector>
 
-/** @brief The asset registry and the object loader. Game thread only. */
-class IOrvAssetRegistry
+namespace OrvWebBridge
 {
-public:
-    virtual ~IOrvAssetRegistry() = default;
+    /** @brief The asset registry and the object loader. Game thread only. */
+    class IOrvAssetRegistry
+    {
+    public:
+        virtual ~IOrvAssetRegistry() = default;
 
-    /** GetAssetsByPath(PackagePath, bRecursive): every asset under the path, in registry order. */
-    virtual std::vector<FOrvAssetData> GetAssetsByPath(std::string_view PackagePath,
-                                                       bool bRecursive) const = 0;
+        /** GetAssetsByPath(PackagePath, bRecursive): every asset under the path, in registry order. */
+        virtual std::vector<FOrvAssetData> GetAssetsByPath(std::string_view PackagePath,
+                                                           bool bRecursive) const = 0;
 
-    /** StaticLoadObject(UStaticMesh, no outer, ObjectPath) without warnings; null when it loads nothing. */
-    virtual FOrvMeshRef LoadStaticMesh(std::string_view ObjectPath) = 0;
+        /** StaticLoadObject(UStaticMesh, no outer, ObjectPath) without warnings; null when it loads nothing.
+         */
+        virtual FOrvMeshRef LoadStaticMesh(std::string_view ObjectPath) = 0;
 
-    /** Loads the asset (FAssetData::GetAsset); null unless it is a UStaticMesh. */
-    virtual FOrvMeshRef LoadStaticMeshAsset(const FOrvAssetData& Asset) = 0;
-};
+        /** Loads the asset (FAssetData::GetAsset); null unless it is a UStaticMesh. */
+        virtual FOrvMeshRef LoadStaticMeshAsset(const FOrvAssetData& Asset) = 0;
+    };
 
-/** @brief Queries on loaded static meshes (UStaticMesh). Game thread only. */
-class IOrvStaticMeshes
-{
-public:
-    virtual ~IOrvStaticMeshes() = default;
+    /** @brief Queries on loaded static meshes (UStaticMesh). Game thread only. */
+    class IOrvStaticMeshes
+    {
+    public:
+        virtual ~IOrvStaticMeshes() = default;
 
-    /** Whether the referenced mesh is still loaded. */
-    virtual bool IsMeshAlive(FOrvMeshRef Mesh) const = 0;
+        /** Whether the referenced mesh is still loaded. */
+        virtual bool IsMeshAlive(FOrvMeshRef Mesh) const = 0;
 
-    /** The mesh's object name, e.g. "SM_Chair". */
-    virtual std::string GetMeshName(FOrvMeshRef Mesh) const = 0;
+        /** The mesh's object name, e.g. "SM_Chair". */
+        virtual std::string GetMeshName(FOrvMeshRef Mesh) const = 0;
 
-    /** The mesh's full path name, e.g. "/Game/ORVESSA/Brand/Meshes/SM_Chair.SM_Chair". */
-    virtual std::string GetMeshPathName(FOrvMeshRef Mesh) const = 0;
+        /** The mesh's full path name, e.g. "/Game/ORVESSA/Brand/Meshes/SM_Chair.SM_Chair". */
+        virtual std::string GetMeshPathName(FOrvMeshRef Mesh) const = 0;
 
-    /** GetBoundingBox(): the local box in centimetres, pivot at the origin. */
-    virtual FOrvBox GetBoundingBox(FOrvMeshRef Mesh) const = 0;
+        /** GetBoundingBox(): the local box in centimetres, pivot at the origin. */
+        virtual FOrvBox GetBoundingBox(FOrvMeshRef Mesh) const = 0;
 
-    /** GetAssetUserDataOfClass(UOrvProductData): the product tag, or nothing when the mesh has none. */
-    virtual std::optional<FOrvProductTag> GetProductTag(FOrvMeshRef Mesh) const = 0;
-};
+        /** GetAssetUserDataOfClass(UOrvProductData): the product tag, or nothing when the mesh has none. */
+        virtual std::optional<FOrvProductTag> GetProductTag(FOrvMeshRef Mesh) const = 0;
+    };
+} // namespace OrvWebBridge

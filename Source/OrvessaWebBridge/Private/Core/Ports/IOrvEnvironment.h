@@ -4,18 +4,21 @@
 #include <string>
 #include <string_view>
 
-/** @brief Facts about the running editor and project. Game thread. */
-class IOrvEnvironment
+namespace OrvWebBridge
 {
-public:
-    virtual ~IOrvEnvironment() = default;
+    /** @brief Facts about the running editor and project. Game thread. */
+    class IOrvEnvironment
+    {
+    public:
+        virtual ~IOrvEnvironment() = default;
 
-    /** The project directory (FPaths::ProjectDir). */
-    virtual std::string GetProjectDir() const = 0;
+        /** The project directory (FPaths::ProjectDir). */
+        virtual std::string GetProjectDir() const = 0;
 
-    /** The version name of a plugin's descriptor; nothing when the plugin manager does not find it. */
-    virtual std::optional<std::string> FindPluginVersion(std::string_view PluginName) const = 0;
+        /** The version name of a plugin's descriptor; nothing when the plugin manager does not find it. */
+        virtual std::optional<std::string> FindPluginVersion(std::string_view PluginName) const = 0;
 
-    /** Today's local date as "%Y-%m-%d". */
-    virtual std::string GetLocalDate() const = 0;
-};
+        /** Today's local date as "%Y-%m-%d". */
+        virtual std::string GetLocalDate() const = 0;
+    };
+} // namespace OrvWebBridge

@@ -1,12 +1,14 @@
 #include "Core/Tools/OrvPlacementGuide.h"
 
-namespace
+namespace OrvWebBridge
 {
-    // Kept byte for byte: AI clients read and quote these rules, so wording, spacing and the em dashes
-    // are part of the tool's behaviour. One literal per line keeps the "\n" line ends whatever line
-    // ends the source file is checked out with; the em dashes are spelled as UTF-8 escapes so that no
-    // compiler's source character set can change them.
-    // clang-format off
+    namespace
+    {
+        // Kept byte for byte: AI clients read and quote these rules, so wording, spacing and the em dashes
+        // are part of the tool's behaviour. One literal per line keeps the "\n" line ends whatever line
+        // ends the source file is checked out with; the em dashes are spelled as UTF-8 escapes so that no
+        // compiler's source character set can change them.
+        // clang-format off
     constexpr std::string_view OrvPlacementGuideText =
         "# ORVESSA Spatial Placement Guide (Unreal Engine)\n"
         "\n"
@@ -54,10 +56,11 @@ namespace
         "4. ue_spawn_product for each item\n"
         "5. ue_capture_view to verify the result\n"
         "6. ue_move_actor to adjust if needed\n";
-    // clang-format on
-} // namespace
+        // clang-format on
+    } // namespace
 
-std::string_view FOrvPlacementGuide::Text()
-{
-    return OrvPlacementGuideText;
-}
+    std::string_view FOrvPlacementGuide::Text()
+    {
+        return OrvPlacementGuideText;
+    }
+} // namespace OrvWebBridge

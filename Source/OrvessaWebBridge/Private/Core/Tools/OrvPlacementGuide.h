@@ -2,10 +2,14 @@
 
 #include <string_view>
 
-/** @brief The fixed spatial placement rules that ue_placement_guide returns; clients follow them as written.
- */
-struct FOrvPlacementGuide
+namespace OrvWebBridge
 {
-    /** The guide: lines separated by "\n", ending with one "\n", UTF-8 (em dashes). */
-    static std::string_view Text();
-};
+    /** @brief The fixed spatial placement rules that ue_placement_guide returns; clients follow them as
+     * written.
+     */
+    struct FOrvPlacementGuide
+    {
+        /** The guide: lines separated by "\n", ending with one "\n", UTF-8 (em dashes). */
+        static std::string_view Text();
+    };
+} // namespace OrvWebBridge

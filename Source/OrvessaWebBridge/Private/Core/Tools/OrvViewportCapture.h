@@ -8,16 +8,19 @@
 #include <cstdint>
 #include <vector>
 
-/**
- * @brief Reads the level viewport and encodes it as a JPEG image block. Game thread.
- * Keeps its pixel buffer between captures so that repeated captures do not reallocate.
- */
-class FOrvViewportCapture
+namespace OrvWebBridge
 {
-public:
-    /** The image block, or a text block holding the {"error": "..."} sentence of the failed step. */
-    FOrvMcpContent Capture(IOrvViewport& Viewport, IOrvImageWrapperModule& Images, std::int32_t Quality);
+    /**
+     * @brief Reads the level viewport and encodes it as a JPEG image block. Game thread.
+     * Keeps its pixel buffer between captures so that repeated captures do not reallocate.
+     */
+    class FOrvViewportCapture
+    {
+    public:
+        /** The image block, or a text block holding the {"error": "..."} sentence of the failed step. */
+        FOrvMcpContent Capture(IOrvViewport& Viewport, IOrvImageWrapperModule& Images, std::int32_t Quality);
 
-private:
-    std::vector<FOrvColor> Pixels;
-};
+    private:
+        std::vector<FOrvColor> Pixels;
+    };
+} // namespace OrvWebBridge
