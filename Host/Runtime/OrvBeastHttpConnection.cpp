@@ -199,6 +199,11 @@ namespace OrvWebBridge
             return;
         }
         Request.Path = std::string(FOrvHostHttpRouter::NormalizePath(Message.target()));
+        const std::string_view Target = Message.target();
+        if (const std::size_t Mark = Target.find('?'); Mark != std::string_view::npos)
+        {
+            Request.Query = std::string(Target.substr(Mark + 1));
+        }
         const FOrvHttpRequestHandler Handler = Router->FindHandler(Request.Path, Request.Verb);
         if (!Handler)
         {
@@ -206,6 +211,11 @@ namespace OrvWebBridge
             return;
         }
         Request.Body = std::move(Message.body());
+        Request.Headers.reserve(static_cast<std::size_t>(std::distance(Message.begin(), Message.end())));
+        for (const auto& Field : Message)
+        {
+            Request.Headers.emplace_back(std::string(Field.name_string()), std::string(Field.value()));
+        }
 
         const std::uint64_t Serial = ++RequestSerial;
         bAwaitingHandler = true;

@@ -36,7 +36,7 @@ namespace OrvWebBridge
         {
             // The handler's copy of the completion is all that keeps a deferred answer deliverable.
             Exchange.bHandled =
-                Route->Handler({Verb, std::string(Path), std::move(Body)},
+                Route->Handler({Verb, std::string(Path), std::move(Body), {}, {}},
                                [Responses = Exchange.Responses](std::unique_ptr<FOrvHttpResponse> Response) {
                                    Responses->push_back(Response ? std::move(*Response) : FOrvHttpResponse{});
                                });

@@ -62,10 +62,14 @@ TEST(FOrvBeastHttpServerModuleTest, PathsMatchLikeTheEngineRouterAndOtherRequest
     FOrvServerRig Rig;
     ASSERT_NE(Rig.Router, nullptr);
     std::string SeenPath;
+    std::string SeenQuery;
+    std::string SeenOrigin;
     Rig.Router->BindRoute("/health", EOrvHttpVerb::Get,
                           [&](const FOrvHttpRequest& Request, const FOrvHttpResultCallback& Done)
                           {
                               SeenPath = Request.Path;
+                              SeenQuery = Request.Query;
+                              SeenOrigin = Request.FindHeader("origin");
                               Done(MakeText("ok"));
                               return true;
                           });
@@ -85,6 +89,12 @@ TEST(FOrvBeastHttpServerModuleTest, PathsMatchLikeTheEngineRouterAndOtherRequest
         EXPECT_EQ(Client.Get(Target).Status, 200) << Target;
         EXPECT_EQ(SeenPath, Path) << Target;
     }
+    EXPECT_EQ(SeenQuery, "probe=1");
+    EXPECT_EQ(
+        Client.SendRaw("GET /health?a=%20b HTTP/1.1\r\nHost: x\r\nOrigin: http://127.0.0.1:9\r\n\r\n").Status,
+        200);
+    EXPECT_EQ(SeenQuery, "a=%20b") << "the query string arrives as sent";
+    EXPECT_EQ(SeenOrigin, "http://127.0.0.1:9") << "headers are found ignoring the case of their names";
     for (const char* Verb : {"POST", "DELETE"})
     {
         EXPECT_EQ(Client.Send(Verb, "/health", "").Status, 404) << Verb;

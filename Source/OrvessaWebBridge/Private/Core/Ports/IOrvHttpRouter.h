@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Core/Common/OrvStrings.h"
+
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -22,7 +24,22 @@ namespace OrvWebBridge
     {
         EOrvHttpVerb Verb = EOrvHttpVerb::Get;
         std::string Path;
-        std::string Body; ///< raw bytes, not NUL-terminated, exactly as received
+        std::string Body;  ///< raw bytes, not NUL-terminated, exactly as received
+        std::string Query; ///< the raw query string after '?', without it; empty when none
+        std::vector<std::pair<std::string, std::string>> Headers; ///< as received, in order
+
+        /** The value of the first header called Name, ignoring letter case; empty when there is none. */
+        std::string_view FindHeader(std::string_view Name) const
+        {
+            for (const auto& [HeaderName, Value] : Headers)
+            {
+                if (FOrvStrings::EqualsIgnoreCase(HeaderName, Name))
+                {
+                    return Value;
+                }
+            }
+            return {};
+        }
     };
 
     /** @brief One response; the content type is sent exactly as given. */

@@ -1,0 +1,45 @@
+#include "Core/Panel/OrvWebPanelService.h"
+
+#include "Tests/Support/OrvFakeWebPanel.h"
+#include "Tests/Support/OrvRecordingLog.h"
+
+#include <gtest/gtest.h>
+
+using namespace OrvWebBridge;
+
+TEST(FOrvWebPanelServiceTest, OpenPanelLoadsAndRunsWhatItIsGivenAndLogsEach)
+{
+    FOrvFakeWebPanel Panel;
+    FOrvRecordingLog Log;
+    FOrvWebPanelService Service(Panel, Log);
+
+    Service.Navigate("https://catalog.example/go/product/P1");
+    Service.ExecuteScript("window.location.reload();");
+
+    EXPECT_EQ(Panel.Loads, std::vector<std::string>{"https://catalog.example/go/product/P1"});
+    EXPECT_EQ(Panel.Scripts, std::vector<std::string>{"window.location.reload();"});
+    EXPECT_TRUE(
+        Log.Contains(EOrvLogVerbosity::Display,
+                     "OrvProductInfoPanel: Navigating WebBrowser to https://catalog.example/go/product/P1"));
+    EXPECT_TRUE(
+        Log.Contains(EOrvLogVerbosity::Display, "OrvProductInfoPanel: Executing JavaScript in WebBrowser"));
+}
+
+TEST(FOrvWebPanelServiceTest, ClosedPanelOnlyWarns)
+{
+    FOrvFakeWebPanel Panel;
+    Panel.bOpen = false;
+    FOrvRecordingLog Log;
+    FOrvWebPanelService Service(Panel, Log);
+
+    Service.Navigate("https://catalog.example/go/product/P1");
+    Service.ExecuteScript("window.location.reload();");
+
+    EXPECT_TRUE(Panel.Loads.empty());
+    EXPECT_TRUE(Panel.Scripts.empty());
+    ASSERT_EQ(Log.Lines.size(), 2u);
+    EXPECT_TRUE(Log.Contains(EOrvLogVerbosity::Warning,
+                             "OrvProductInfoPanel: WebBrowserWidget not valid, cannot navigate"));
+    EXPECT_TRUE(Log.Contains(EOrvLogVerbosity::Warning,
+                             "OrvProductInfoPanel: WebBrowserWidget not valid, cannot execute JavaScript"));
+}
