@@ -47,29 +47,60 @@ namespace OrvWebBridge
     FOrvBeastHttpConnection::FOrvBeastHttpConnection(tcp::socket&& Socket,
                                                      std::shared_ptr<FOrvHostHttpRouter> InRouter,
                                                      std::shared_ptr<FOrvBeastHttpShared> InShared)
-        : Stream(std::move(Socket)), Router(std::move(InRouter)), Shared(std::move(InShared)),
-          Heartbeat(Stream.get_executor())
+        : Stream(std::move(Socket)), Reader(InShared->Limits), Router(std::move(InRouter)),
+          Shared(std::move(InShared)), Heartbeat(Stream.get_executor())
     {
     }
 
     FOrvBeastHttpConnection::~FOrvBeastHttpConnection()
     {
-        if (Id != 0)
-        {
-            Shared->Connections.erase(Id);
-        }
+        Shared->Connections.erase(Id);
     }
 
     void FOrvBeastHttpConnection::Start()
     {
+        if (Shared->Connections.size() >= Shared->Limits.MaxConnections && !CloseLongestIdle(*Shared))
+        {
+            Refuse();
+            return;
+        }
         Id = ++Shared->LastConnectionId;
         Shared->Connections.emplace(Id, weak_from_this());
-        ReadHeader();
+        AwaitRequest();
+    }
+
+    bool FOrvBeastHttpConnection::CloseLongestIdle(FOrvBeastHttpShared& Shared)
+    {
+        // Only a connection between requests gives way: closing it is what keep-alive allows at any time.
+        std::shared_ptr<FOrvBeastHttpConnection> Longest;
+        for (const auto& [ConnectionId, Weak] : Shared.Connections)
+        {
+            const auto Connection = Weak.lock();
+            const bool bIdle =
+                Connection && (Connection->Phase == EPhase::Idle || Connection->Phase == EPhase::Lingering);
+            if (bIdle && (!Longest || Connection->IdleSince < Longest->IdleSince))
+            {
+                Longest = Connection;
+            }
+        }
+        if (Longest)
+        {
+            Longest->Close();
+        }
+        return Longest != nullptr;
     }
 
     void FOrvBeastHttpConnection::Refuse()
     {
-        SendPlain(503, "Too many connections; try again later.\n", false);
+        FResponse Message;
+        Message.version(11);
+        Message.result(503);
+        Message.set(http::field::content_type, "text/plain");
+        Message.set(http::field::retry_after, "1");
+        Message.body() = "Too many connections; try again later.\n";
+        Message.keep_alive(false);
+        Message.prepare_payload();
+        Send(std::move(Message));
     }
 
     void FOrvBeastHttpConnection::Close()
@@ -79,6 +110,7 @@ namespace OrvWebBridge
             return;
         }
         bClosed = true;
+        Shared->Connections.erase(Id);
         FErrorCode Ignored;
         Stream.socket().shutdown(tcp::socket::shutdown_both, Ignored);
         Stream.close();
@@ -90,107 +122,118 @@ namespace OrvWebBridge
         }
     }
 
-    void FOrvBeastHttpConnection::ReadHeader()
+    void FOrvBeastHttpConnection::AwaitRequest()
     {
         if (bClosed)
         {
             return;
         }
-        Parser.emplace();
-        Parser->body_limit(Shared->Limits.MaxBodyBytes);
-        Parser->header_limit(static_cast<std::uint32_t>(Shared->Limits.MaxHeaderBytes));
-        Stream.expires_after(Seconds(Shared->Limits.ReadTimeoutSeconds));
-        http::async_read_header(Stream, Buffer, *Parser,
-                                [Self = shared_from_this()](const FErrorCode& Error, std::size_t)
-                                { Self->OnHeader(Error); });
+        Reader.Begin();
+        Phase = EPhase::Idle;
+        IdleSince = std::chrono::steady_clock::now();
+        if (Reader.HasBufferedBytes())
+        {
+            // A pipelined request arrived with the one before.
+            Phase = EPhase::Header;
+            RequestDeadline = IdleSince + Seconds(Shared->Limits.RequestTimeoutSeconds);
+            Advance(Reader.Parse());
+            return;
+        }
+        ReadSome();
     }
 
-    void FOrvBeastHttpConnection::OnHeader(const FErrorCode& Error)
+    void FOrvBeastHttpConnection::ReadSome()
     {
+        // The header's deadline runs from its first byte and the body's grows only with what has come, so a
+        // client that sends a byte now and then cannot keep a connection forever.
+        const FOrvHttpServerLimits& Limits = Shared->Limits;
+        if (Phase == EPhase::Idle)
+        {
+            Stream.expires_after(Seconds(Limits.IdleTimeoutSeconds));
+        }
+        else if (Phase == EPhase::Header)
+        {
+            Stream.expires_at(RequestDeadline);
+        }
+        else
+        {
+            Stream.expires_at(RequestDeadline + Seconds(static_cast<double>(Reader.GetBodyBytes()) /
+                                                        Limits.MinBodyBytesPerSecond));
+        }
+        Stream.async_read_some(Reader.Prepare(),
+                               [Self = shared_from_this()](const FErrorCode& Error, std::size_t Bytes)
+                               { Self->OnRead(Error, Bytes); });
+    }
+
+    void FOrvBeastHttpConnection::OnRead(const FErrorCode& Error, std::size_t Bytes)
+    {
+        if (bClosed)
+        {
+            return;
+        }
         if (Error)
         {
-            RejectReadError(Error);
+            // The client went away, or its deadline passed (the stream has closed the socket then).
+            Close();
             return;
         }
-        const auto Expect = Parser->get().find(http::field::expect);
-        if (Expect != Parser->get().end() && FOrvStrings::EqualsIgnoreCase(Expect->value(), "100-continue") &&
-            !Parser->is_done())
+        Reader.Commit(Bytes);
+        if (Phase == EPhase::Idle)
         {
-            // curl and others wait for this before sending a body larger than 1 KiB.
-            asio::async_write(Stream, asio::buffer(ContinueText.data(), ContinueText.size()),
-                              [Self = shared_from_this()](const FErrorCode& WriteError, std::size_t)
-                              {
-                                  if (WriteError)
-                                  {
-                                      Self->Close();
-                                      return;
-                                  }
-                                  Self->ReadBody();
-                              });
-            return;
+            Phase = EPhase::Header;
+            RequestDeadline =
+                std::chrono::steady_clock::now() + Seconds(Shared->Limits.RequestTimeoutSeconds);
         }
-        ReadBody();
+        Advance(Reader.Parse());
     }
 
-    void FOrvBeastHttpConnection::ReadBody()
+    void FOrvBeastHttpConnection::Advance(EOrvHttpReadProgress Progress)
     {
-        if (Parser->is_done())
+        switch (Progress)
         {
+        case EOrvHttpReadProgress::NeedMore:
+            ReadSome();
+            return;
+        case EOrvHttpReadProgress::HeaderDone:
+            OnHeaderDone();
+            return;
+        case EOrvHttpReadProgress::Complete:
             Dispatch();
             return;
+        case EOrvHttpReadProgress::Rejected:
+            SendPlain(Reader.GetRejection().Status, Reader.GetRejection().Text, false);
+            return;
         }
-        Stream.expires_after(Seconds(Shared->Limits.ReadTimeoutSeconds));
-        http::async_read(Stream, Buffer, *Parser,
-                         [Self = shared_from_this()](const FErrorCode& Error, std::size_t)
-                         { Self->OnBody(Error); });
     }
 
-    void FOrvBeastHttpConnection::OnBody(const FErrorCode& Error)
+    void FOrvBeastHttpConnection::OnHeaderDone()
     {
-        if (Error)
+        Phase = EPhase::Body;
+        RequestDeadline = std::chrono::steady_clock::now() + Seconds(Shared->Limits.RequestTimeoutSeconds);
+        if (!Reader.WantsContinue())
         {
-            RejectReadError(Error);
+            Advance(Reader.Parse());
             return;
         }
-        Dispatch();
-    }
-
-    void FOrvBeastHttpConnection::RejectReadError(const FErrorCode& Error)
-    {
-        if (bClosed)
-        {
-            return;
-        }
-        if (Error == http::error::body_limit)
-        {
-            SendPlain(413,
-                      FOrvStrings::Printf("Request body too large: the limit is %zu bytes.\n",
-                                          Shared->Limits.MaxBodyBytes),
-                      false);
-            return;
-        }
-        if (Error == http::error::header_limit)
-        {
-            SendPlain(431, "Request header fields too large.\n", false);
-            return;
-        }
-        const bool bMalformed =
-            Error.category() == http::make_error_code(http::error::end_of_stream).category() &&
-            Error != http::error::end_of_stream && Error != http::error::partial_message;
-        if (bMalformed)
-        {
-            SendPlain(400, "Bad request.\n", false);
-            return;
-        }
-        // The client went away, stayed idle too long or was too slow: nothing to answer.
-        Close();
+        // curl and others wait for this before sending a body larger than 1 KiB.
+        Stream.expires_at(RequestDeadline);
+        asio::async_write(Stream, asio::buffer(ContinueText.data(), ContinueText.size()),
+                          [Self = shared_from_this()](const FErrorCode& Error, std::size_t)
+                          {
+                              if (Error)
+                              {
+                                  Self->Close();
+                                  return;
+                              }
+                              Self->Advance(Self->Reader.Parse());
+                          });
     }
 
     void FOrvBeastHttpConnection::Dispatch()
     {
-        http::request<http::string_body> Message = Parser->release();
-        Parser.reset();
+        http::request<http::string_body> Message = Reader.TakeRequest();
         bKeepAlive = Message.keep_alive();
+        Phase = EPhase::Handling;
 
         FOrvHttpRequest Request;
         if (Message.method() == http::verb::get)
@@ -206,8 +249,8 @@ namespace OrvWebBridge
             SendPlain(404, "Not found.\n", bKeepAlive);
             return;
         }
-        Request.Path = std::string(FOrvHostHttpRouter::NormalizePath(Message.target()));
         const std::string_view Target = Message.target();
+        Request.Path = std::string(FOrvHostHttpRouter::NormalizePath(Target));
         if (const std::size_t Mark = Target.find('?'); Mark != std::string_view::npos)
         {
             Request.Query = std::string(Target.substr(Mark + 1));
@@ -234,11 +277,9 @@ namespace OrvWebBridge
             return;
         }
         const std::uint64_t Serial = ++RequestSerial;
-        bAwaitingHandler = true;
         const bool bHandled = Route.Handler(Request, MakeCompletion(Serial));
-        if (!bHandled && bAwaitingHandler && RequestSerial == Serial)
+        if (!bHandled && Phase == EPhase::Handling && RequestSerial == Serial)
         {
-            bAwaitingHandler = false;
             SendPlain(404, "Not found.\n", bKeepAlive);
         }
     }
@@ -260,11 +301,10 @@ namespace OrvWebBridge
 
     void FOrvBeastHttpConnection::Complete(std::uint64_t Serial, std::unique_ptr<FOrvHttpResponse> Reply)
     {
-        if (bClosed || !bAwaitingHandler || Serial != RequestSerial)
+        if (bClosed || Phase != EPhase::Handling || Serial != RequestSerial)
         {
             return;
         }
-        bAwaitingHandler = false;
         if (!Reply)
         {
             SendPlain(500, "The request handler ended without an answer.\n", bKeepAlive);
@@ -275,6 +315,23 @@ namespace OrvWebBridge
 
     void FOrvBeastHttpConnection::SendResponse(std::unique_ptr<FOrvHttpResponse> Reply)
     {
+        // A line break would let a handler's value forge headers, and Beast throws on a field of 64 KiB.
+        const auto IsSafe = [](std::string_view Name, std::string_view Value)
+        {
+            return !Name.empty() && Name.size() + Value.size() <= 16 * 1024 &&
+                   Name.find_first_of(" \t\r\n:\0", 0, 6) == std::string_view::npos &&
+                   Value.find_first_of("\r\n\0", 0, 3) == std::string_view::npos;
+        };
+        bool bSafe = IsSafe("Content-Type", Reply->ContentType);
+        for (const auto& [Name, Value] : Reply->Headers)
+        {
+            bSafe = bSafe && IsSafe(Name, Value);
+        }
+        if (!bSafe)
+        {
+            SendPlain(500, "The request handler gave an invalid header.\n", bKeepAlive);
+            return;
+        }
         FResponse Message;
         Message.version(11);
         Message.result(Reply->Code >= 100 && Reply->Code <= 599 ? static_cast<unsigned>(Reply->Code) : 500u);
@@ -310,11 +367,20 @@ namespace OrvWebBridge
         {
             return;
         }
+        Phase = EPhase::Sending;
         Response = std::move(Message);
-        Stream.expires_after(Seconds(Shared->Limits.WriteTimeoutSeconds));
-        http::async_write(Stream, Response,
-                          [Self = shared_from_this()](const FErrorCode& Error, std::size_t)
-                          { Self->OnWritten(Error); });
+        Serializer.emplace(Response);
+        WriteSome();
+    }
+
+    void FOrvBeastHttpConnection::WriteSome()
+    {
+        // Each write must take some bytes within the time: a reader that stops is dropped, one that reads
+        // slowly is not.
+        Stream.expires_after(Seconds(Shared->Limits.SendTimeoutSeconds));
+        http::async_write_some(Stream, *Serializer,
+                               [Self = shared_from_this()](const FErrorCode& Error, std::size_t)
+                               { Self->OnWritten(Error); });
     }
 
     void FOrvBeastHttpConnection::OnWritten(const FErrorCode& Error)
@@ -324,13 +390,19 @@ namespace OrvWebBridge
             Close();
             return;
         }
+        if (!Serializer->is_done())
+        {
+            WriteSome();
+            return;
+        }
+        Serializer.reset();
         if (!Response.keep_alive())
         {
             LingerAndClose();
             return;
         }
         Response = {};
-        ReadHeader();
+        AwaitRequest();
     }
 
     void FOrvBeastHttpConnection::LingerAndClose()
@@ -339,6 +411,8 @@ namespace OrvWebBridge
         {
             return;
         }
+        Phase = EPhase::Lingering;
+        IdleSince = std::chrono::steady_clock::now();
         FErrorCode Ignored;
         Stream.socket().shutdown(tcp::socket::shutdown_send, Ignored);
         Stream.expires_after(Seconds(LingerSeconds));
@@ -352,8 +426,7 @@ namespace OrvWebBridge
                                [Self = shared_from_this()](const FErrorCode& Error, std::size_t Read)
                                {
                                    Self->DrainedBytes += Read;
-                                   if (Error || Self->DrainedBytes > Self->Shared->Limits.MaxBodyBytes +
-                                                                         Self->Shared->Limits.MaxHeaderBytes)
+                                   if (Error || Self->DrainedBytes > Self->Shared->Limits.MaxBodyBytes)
                                    {
                                        Self->Close();
                                        return;

@@ -3,6 +3,7 @@
 // Private to the Beast HTTP server module: includes Beast, so only its .cpp files may include it.
 
 #include "Host/Runtime/OrvBeast.h"
+#include "Host/Runtime/OrvBeastHttpRequestReader.h"
 #include "Host/Runtime/OrvBeastHttpServerModule.h"
 #include "Host/Runtime/OrvHostHttpRouter.h"
 
@@ -31,15 +32,18 @@ namespace OrvWebBridge
 
         OrvBeast::asio::io_context& Context;
         FOrvHttpServerLimits Limits;
-        std::unordered_map<std::uint64_t, std::weak_ptr<FOrvBeastHttpConnection>> Connections;
+        std::unordered_map<std::uint64_t, std::weak_ptr<FOrvBeastHttpConnection>> Connections; ///< open ones
         std::uint64_t LastConnectionId = 0;
+        std::uint64_t LastStreamSerial = 0;
     };
 
     /**
      * @brief One accepted connection: reads requests one after the other, hands each to its route's handler
-     * and writes the answer whenever the handler completes, then reads the next (keep-alive). A request for
-     * an event stream that its handler accepts turns the connection into that stream until either side ends
-     * it (the stream part lives in OrvBeastHttpEventStream.cpp).
+     * and writes the answer whenever the handler completes, then reads the next (keep-alive). It holds at
+     * most one answer: the next request is neither read nor handled before the answer is sent, so a client
+     * that never reads holds one answer for SendTimeoutSeconds at most. A request for an event stream that
+     * its handler accepts turns the connection into that stream until either side ends it (the stream part
+     * lives in OrvBeastHttpEventStream.cpp).
      */
     class FOrvBeastHttpConnection : public std::enable_shared_from_this<FOrvBeastHttpConnection>
     {
@@ -48,11 +52,9 @@ namespace OrvWebBridge
                                 std::shared_ptr<FOrvBeastHttpShared> InShared);
         ~FOrvBeastHttpConnection();
 
-        /** Registers the connection and starts reading. */
+        /** Takes a slot (a full server first closes the connection idle longest) and starts reading; with
+         *  no slot to be had, answers 503 and closes. */
         void Start();
-
-        /** Answers 503 and closes: the server has too many connections. */
-        void Refuse();
 
         /** Closes the socket at once; pending operations end and the connection goes away. */
         void Close();
@@ -65,6 +67,17 @@ namespace OrvWebBridge
         void EndStream();
 
     private:
+        enum class EPhase
+        {
+            Idle,      ///< waiting for the first byte of a request
+            Header,    ///< reading a request's header
+            Body,      ///< reading its body
+            Handling,  ///< the handler has it
+            Sending,   ///< writing the answer
+            Lingering, ///< answered and closing
+            Streaming, ///< an open event stream
+        };
+
         enum class EStreamPhase
         {
             None,
@@ -74,12 +87,16 @@ namespace OrvWebBridge
 
         using FResponse = OrvBeast::http::response<OrvBeast::http::string_body>;
 
-        void ReadHeader();
-        void OnHeader(const OrvBeast::FErrorCode& Error);
-        void ReadBody();
-        void OnBody(const OrvBeast::FErrorCode& Error);
+        static bool CloseLongestIdle(FOrvBeastHttpShared& Shared);
+        void Refuse();
+        void AwaitRequest();
+        void ReadSome();
+        void OnRead(const OrvBeast::FErrorCode& Error, std::size_t Bytes);
+        void Advance(EOrvHttpReadProgress Progress);
+        void OnHeaderDone();
         void Dispatch();
         void DispatchStream(const FOrvHttpEventStreamHandler& Handler, const FOrvHttpRequest& Request);
+        void CloseOldestStreamsOverCap();
         void WatchStreamPeer();
         void WriteStream();
         void ArmHeartbeat();
@@ -88,24 +105,27 @@ namespace OrvWebBridge
         void SendResponse(std::unique_ptr<FOrvHttpResponse> Reply);
         void SendPlain(unsigned Status, std::string_view Text, bool bKeepAlive);
         void Send(FResponse&& Response);
+        void WriteSome();
         void OnWritten(const OrvBeast::FErrorCode& Error);
         void LingerAndClose();
         void Drain();
-        void RejectReadError(const OrvBeast::FErrorCode& Error);
 
         friend struct FOrvPendingReply;
 
         OrvBeast::beast::tcp_stream Stream;
-        OrvBeast::beast::flat_buffer Buffer;
-        std::optional<OrvBeast::http::request_parser<OrvBeast::http::string_body>> Parser;
+        FOrvBeastHttpRequestReader Reader;
         FResponse Response;
+        std::optional<OrvBeast::http::response_serializer<OrvBeast::http::string_body>> Serializer;
         std::shared_ptr<FOrvHostHttpRouter> Router;
         std::shared_ptr<FOrvBeastHttpShared> Shared;
         std::array<char, 4096> Scratch{};
         std::size_t DrainedBytes = 0;
         std::uint64_t Id = 0;
         std::uint64_t RequestSerial = 0;
-        bool bAwaitingHandler = false;
+        std::uint64_t StreamSerial = 0;
+        std::chrono::steady_clock::time_point IdleSince;
+        std::chrono::steady_clock::time_point RequestDeadline; ///< of the header, then the body's grace
+        EPhase Phase = EPhase::Idle;
         bool bKeepAlive = false;
         bool bClosed = false;
 

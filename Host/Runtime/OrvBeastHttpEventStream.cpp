@@ -2,6 +2,9 @@
 
 #include "Host/Runtime/OrvBeastHttpConnection.h"
 
+#include <algorithm>
+#include <vector>
+
 namespace OrvWebBridge
 {
     using namespace OrvBeast;
@@ -159,6 +162,9 @@ namespace OrvWebBridge
             return;
         }
         StreamPhase = EStreamPhase::Open;
+        Phase = EPhase::Streaming;
+        StreamSerial = ++Shared->LastStreamSerial;
+        CloseOldestStreamsOverCap();
         StreamQueued.insert(0, StreamHeader);
         WatchStreamPeer();
         if (!bStreamEnding)
@@ -166,6 +172,30 @@ namespace OrvWebBridge
             ArmHeartbeat();
         }
         WriteStream();
+    }
+
+    void FOrvBeastHttpConnection::CloseOldestStreamsOverCap()
+    {
+        // A page that reloads opens its new stream before the old one is noticed gone: the newest streams
+        // are the ones to keep.
+        std::vector<std::shared_ptr<FOrvBeastHttpConnection>> Streams;
+        for (const auto& [ConnectionId, Weak] : Shared->Connections)
+        {
+            if (auto Connection = Weak.lock(); Connection && Connection->Phase == EPhase::Streaming)
+            {
+                Streams.push_back(std::move(Connection));
+            }
+        }
+        if (Streams.size() <= Shared->Limits.MaxEventStreams)
+        {
+            return;
+        }
+        std::sort(Streams.begin(), Streams.end(),
+                  [](const auto& A, const auto& B) { return A->StreamSerial < B->StreamSerial; });
+        for (std::size_t Index = 0; Index < Streams.size() - Shared->Limits.MaxEventStreams; ++Index)
+        {
+            Streams[Index]->Close();
+        }
     }
 
     bool FOrvBeastHttpConnection::QueueStreamBytes(std::string_view Bytes)
@@ -235,7 +265,7 @@ namespace OrvWebBridge
             return;
         }
         std::swap(StreamWriting, StreamQueued);
-        Stream.expires_after(Seconds(Shared->Limits.WriteTimeoutSeconds));
+        Stream.expires_after(Seconds(Shared->Limits.SendTimeoutSeconds));
         asio::async_write(Stream, asio::buffer(StreamWriting),
                           [Self = shared_from_this()](const FErrorCode& Error, std::size_t)
                           {

@@ -104,16 +104,9 @@ namespace OrvWebBridge
                     }
                     FErrorCode Ignored;
                     Socket.set_option(tcp::no_delay(true), Ignored);
-                    auto Connection = std::make_shared<FOrvBeastHttpConnection>(
-                        std::move(Socket), Listener->Router, Self->Shared);
-                    if (Self->Shared->Connections.size() >= Self->Shared->Limits.MaxConnections)
-                    {
-                        Connection->Refuse();
-                    }
-                    else
-                    {
-                        Connection->Start();
-                    }
+                    std::make_shared<FOrvBeastHttpConnection>(std::move(Socket), Listener->Router,
+                                                              Self->Shared)
+                        ->Start();
                     Self->Accept(Listener);
                 });
         }

@@ -12,14 +12,21 @@ namespace OrvWebBridge
     class FOrvHostEventLoop;
     class FOrvHostHttpRouter;
 
-    /** @brief Protection limits of the host's HTTP server. */
+    /** @brief Protection limits of the host's HTTP server (Docs/Limits.md explains the choices). */
     struct FOrvHttpServerLimits
     {
         std::size_t MaxBodyBytes = 8 * 1024 * 1024; ///< a larger request body is answered 413
-        std::size_t MaxHeaderBytes = 64 * 1024;     ///< larger request headers are answered 431
-        std::size_t MaxConnections = 256;           ///< further connections get a 503 and are closed
-        double ReadTimeoutSeconds = 30.0;  ///< idle keep-alive or slow request: the connection is closed
-        double WriteTimeoutSeconds = 30.0; ///< a client that does not read its answer is dropped
+        std::size_t MaxHeaderBytes = 64 * 1024; ///< larger request headers are answered 431 (64 KiB at most)
+        /** A new connection past this takes the place of the one idle longest; with none idle it gets 503. */
+        std::size_t MaxConnections = 256;
+        std::size_t MaxEventStreams = 8;  ///< a stream opened past this ends the oldest stream
+        double IdleTimeoutSeconds = 30.0; ///< a connection waiting for its next request is closed after this
+        double RequestTimeoutSeconds =
+            5.0; ///< headers must be in this long after their first byte, a body
+                 ///< this long after its header plus what MinBodyBytesPerSecond allows
+        double MinBodyBytesPerSecond = 64 * 1024;
+        double SendTimeoutSeconds =
+            5.0; ///< a client that takes no byte of its answer for this long is dropped
         std::size_t MaxStreamQueueBytes = 1 << 20; ///< unsent event bytes past this end the stream
         double StreamHeartbeatSeconds = 15.0;      ///< how often an event stream gets a comment line
     };
@@ -32,7 +39,8 @@ namespace OrvWebBridge
      * Requests are delivered on the event loop; a handler may complete later. Unknown paths or verbs get a
      * 404 at once, unless the router has a fallback handler. Event streams are connections too: they count
      * toward MaxConnections and end when the server stops. StopAllListeners closes every listener and
-     * connection; routers stay and rebind on the next GetHttpRouter.
+     * connection; routers stay and rebind on the next GetHttpRouter. No Beast or Asio call here can throw
+     * out of the event loop: hostile bytes meet Beast's parser only through FOrvBeastHttpRequestReader.
      */
     class FOrvBeastHttpServerModule : public IOrvHttpServerModule
     {

@@ -85,19 +85,40 @@ namespace OrvWebBridge
     FOrvTestHttpReply FOrvTestHttpClient::SendRaw(std::string_view Bytes, double TimeoutSeconds)
     {
         FOrvTestHttpReply Reply;
-        Reply.Error = "connect failed";
-        if (!Connect(TimeoutSeconds))
+        if (!WriteRaw(Bytes, TimeoutSeconds))
         {
-            return Reply;
-        }
-        const auto Data = asio::buffer(Bytes.data(), Bytes.size());
-        if (const FErrorCode Error =
-                Run([&](auto Done) { asio::async_write(Socket, Data, Done); }, TimeoutSeconds))
-        {
-            Reply.Error = "write: " + Error.message();
+            Reply.Error = "connect or write failed";
             return Reply;
         }
         return ReadReply(TimeoutSeconds);
+    }
+
+    bool FOrvTestHttpClient::WriteRaw(std::string_view Bytes, double TimeoutSeconds)
+    {
+        const auto Data = asio::buffer(Bytes.data(), Bytes.size());
+        return Connect(TimeoutSeconds) &&
+               !Run([&](auto Done) { asio::async_write(Socket, Data, Done); }, TimeoutSeconds);
+    }
+
+    bool FOrvTestHttpClient::HasServerClosed()
+    {
+        if (!Socket.is_open())
+        {
+            return true;
+        }
+        // Lets a server on the same context run first, then looks without blocking.
+        Context.restart();
+        Context.poll();
+        FErrorCode Error;
+        Socket.non_blocking(true, Error);
+        while (!Error)
+        {
+            const std::size_t Read = Socket.read_some(Buffer.prepare(4096), Error);
+            Buffer.commit(Read);
+        }
+        const bool bClosed = Error != asio::error::would_block && Error != asio::error::try_again;
+        Socket.non_blocking(false, Error);
+        return bClosed;
     }
 
     FOrvTestHttpReply FOrvTestHttpClient::ReadReply(double TimeoutSeconds)

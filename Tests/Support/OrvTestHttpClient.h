@@ -47,6 +47,13 @@ namespace OrvWebBridge
         /** Writes Bytes as they are and reads one answer; connects first when not connected. */
         FOrvTestHttpReply SendRaw(std::string_view Bytes, double TimeoutSeconds = 10.0);
 
+        /** Writes Bytes as they are without reading an answer; connects first. False when the write fails. */
+        bool WriteRaw(std::string_view Bytes, double TimeoutSeconds = 10.0);
+
+        /** Whether the server has closed (or reset) the connection by now, without waiting; what it sent
+         *  meanwhile is kept for ReadReply. */
+        bool HasServerClosed();
+
         /** Reads one more answer without sending (the second of two pipelined requests). */
         FOrvTestHttpReply ReadReply(double TimeoutSeconds = 10.0);
 

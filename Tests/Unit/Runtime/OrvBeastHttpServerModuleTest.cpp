@@ -148,12 +148,27 @@ TEST(FOrvBeastHttpServerModuleTest, LateDoubleOrMissingCompletionsAndClientsThat
                           });
     Rig.Router->BindRoute("/forgets", EOrvHttpVerb::Post,
                           [](const FOrvHttpRequest&, const FOrvHttpResultCallback&) { return true; });
+    Rig.Router->BindRoute("/forges", EOrvHttpVerb::Post,
+                          [](const FOrvHttpRequest& Request, const FOrvHttpResultCallback& Done)
+                          {
+                              auto Response = MakeTextResponse("");
+                              Response->Headers = {{"Location", Request.Body}};
+                              Done(std::move(Response));
+                              return true;
+                          });
 
     FOrvTestHttpClient Client(Rig.Loop.Context(), Rig.Port());
     EXPECT_EQ(Client.Post("/later", "one").Body, "late one");
     EXPECT_EQ(Client.Post("/later", "two").Body, "late two") << "a second completion is ignored";
     // A handler that claims the request but drops its completion must not leave the client hanging.
     EXPECT_EQ(Client.Post("/forgets", "{}").Status, 500);
+    // Nor may a value it took from the request forge headers (or pass Beast's 64 KiB field limit).
+    for (const std::string& Value : {std::string("/x\r\nSet-Cookie: a=1"), std::string(70000, 'v')})
+    {
+        const FOrvTestHttpReply Forged = Client.Post("/forges", Value);
+        EXPECT_EQ(Forged.Status, 500);
+        EXPECT_EQ(Forged.Header("Set-Cookie"), "");
+    }
 
     // The client goes away while the handler still holds the completion: answering later does nothing.
     {
@@ -168,7 +183,7 @@ TEST(FOrvBeastHttpServerModuleTest, LateDoubleOrMissingCompletionsAndClientsThat
     EXPECT_EQ(Client.Post("/later", "three").Body, "late three");
 }
 
-TEST(FOrvBeastHttpServerModuleTest, OversizedMalformedAndExpectContinueRequestsGetClearAnswers)
+TEST(FOrvBeastHttpServerModuleTest, OversizedBodiesGet413AndExpectContinueGets100)
 {
     FOrvHttpServerLimits Limits;
     Limits.MaxBodyBytes = 1024;
@@ -182,47 +197,12 @@ TEST(FOrvBeastHttpServerModuleTest, OversizedMalformedAndExpectContinueRequestsG
     EXPECT_EQ(TooLarge.Body, "Request body too large: the limit is 1024 bytes.\n");
     EXPECT_FALSE(Client.IsConnected());
 
-    EXPECT_EQ(Client.SendRaw("NOT HTTP AT ALL\r\n\r\n").Status, 400);
-
     // curl waits for "100 Continue" before it sends a larger body.
     EXPECT_EQ(
         Client.SendRaw("POST /mcp HTTP/1.1\r\nHost: x\r\nExpect: 100-continue\r\nContent-Length: 2\r\n\r\n")
             .Status,
         100);
     EXPECT_EQ(Client.SendRaw("{}").Body, "{}");
-}
-
-TEST(FOrvBeastHttpServerModuleTest, ConnectionsBeyondTheLimitAreRefusedWith503)
-{
-    FOrvHttpServerLimits Limits;
-    Limits.MaxConnections = 2;
-    FOrvBeastServerRig Rig(Limits);
-    Rig.BindEcho("/mcp", EOrvHttpVerb::Post);
-    FOrvTestHttpClient First(Rig.Loop.Context(), Rig.Port());
-    FOrvTestHttpClient Second(Rig.Loop.Context(), Rig.Port());
-    FOrvTestHttpClient Third(Rig.Loop.Context(), Rig.Port());
-    EXPECT_EQ(First.Post("/mcp", "{}").Status, 200);
-    EXPECT_EQ(Second.Post("/mcp", "{}").Status, 200);
-    EXPECT_EQ(Third.Post("/mcp", "{}").Status, 503);
-    EXPECT_FALSE(Third.IsConnected());
-
-    First.Disconnect();
-    EXPECT_TRUE(Rig.WaitForConnections(1));
-    EXPECT_EQ(Third.Post("/mcp", "{}").Status, 200);
-}
-
-TEST(FOrvBeastHttpServerModuleTest, IdleAndSlowConnectionsAreClosedAfterTheReadTimeout)
-{
-    FOrvHttpServerLimits Limits;
-    Limits.ReadTimeoutSeconds = 0.1;
-    FOrvBeastServerRig Rig(Limits);
-    FOrvTestHttpClient Idle(Rig.Loop.Context(), Rig.Port());
-    ASSERT_TRUE(Idle.Connect());
-    EXPECT_TRUE(Idle.WaitForServerClose(5.0));
-
-    FOrvTestHttpClient Slow(Rig.Loop.Context(), Rig.Port());
-    EXPECT_FALSE(Slow.SendRaw("GET /hea", 0.5).bReceived);
-    EXPECT_TRUE(Rig.WaitForConnections(0));
 }
 
 TEST(FOrvBeastHttpServerModuleTest, StopAllListenersClosesEverythingAndTheRouterServesAgainAfterARestart)
