@@ -17,7 +17,12 @@ namespace OrvWebBridge
     namespace
     {
         class FOrvCatalogRequest;
-    }
+
+        // The answer waits in a buffer of at most 64 KiB, so an endless header, chunk line or trailer cannot
+        // grow memory, nor reach Beast's own 64 KiB field limit, which Beast enforces by throwing.
+        constexpr std::size_t MaxBufferedBytes = 64 * 1024;
+        constexpr std::uint32_t MaxAnswerHeaderBytes = 32 * 1024;
+    } // namespace
 
     struct FOrvHttpCatalogApi::FState
     {
@@ -67,6 +72,7 @@ namespace OrvWebBridge
                 Request.body() = std::move(JsonBody);
                 Request.prepare_payload();
                 Parser.body_limit(State->Limits.MaxAnswerBytes);
+                Parser.header_limit(MaxAnswerHeaderBytes);
             }
 
             void Start()
@@ -134,10 +140,26 @@ namespace OrvWebBridge
 
             void OnRead(const FErrorCode& Error)
             {
+                if (Error == http::error::body_limit)
+                {
+                    Fail(FOrvStrings::Printf("the answer is larger than %zu bytes",
+                                             State->Limits.MaxAnswerBytes));
+                    return;
+                }
+                if (Error == http::error::header_limit)
+                {
+                    Fail(FOrvStrings::Printf("the answer's header is larger than %u bytes",
+                                             MaxAnswerHeaderBytes));
+                    return;
+                }
+                if (Error == http::error::buffer_overflow)
+                {
+                    Fail("a line of the answer (chunk size or trailer) is longer than 64 KiB");
+                    return;
+                }
                 if (Error)
                 {
-                    Fail(Error == http::error::body_limit ? "the answer is larger than the limit"
-                                                          : "cannot read the answer: " + Error.message());
+                    Fail("cannot read the answer: " + Error.message());
                     return;
                 }
                 const auto& Answer = Parser.get();
@@ -154,7 +176,8 @@ namespace OrvWebBridge
                 const unsigned Status = Answer.result_int();
                 if (Status < 200 || Status > 299)
                 {
-                    Fail("the service answered HTTP " + std::to_string(Status));
+                    Fail("the service answered HTTP " + std::to_string(Status) +
+                         (Status >= 300 && Status <= 399 ? " (redirects are not followed)" : ""));
                     return;
                 }
                 auto Document = std::make_shared<rapidjson::Document>();
@@ -214,7 +237,7 @@ namespace OrvWebBridge
             FOrvApiCallback OnComplete;
             http::request<http::string_body> Request;
             http::response_parser<http::string_body> Parser;
-            beast::flat_buffer Buffer;
+            beast::flat_buffer Buffer{MaxBufferedBytes};
             std::uint64_t Id = 0;
             bool bFinished = false;
         };

@@ -209,6 +209,16 @@ namespace OrvWebBridge
 
     void FOrvCookieJar::Set(const FOrvCookie& Cookie)
     {
+        // Cookies go back out in one Cookie header: one that could break or forge header lines, or pass the
+        // bounds, is not kept.
+        const auto IsUnsafe = [](char Character)
+        { return static_cast<unsigned char>(Character) < 0x20 || Character == ';' || Character == 0x7F; };
+        if (Cookie.Name.empty() || Cookie.Name.size() + Cookie.Value.size() > MaxCookieBytes ||
+            std::any_of(Cookie.Name.begin(), Cookie.Name.end(), IsUnsafe) ||
+            std::any_of(Cookie.Value.begin(), Cookie.Value.end(), IsUnsafe))
+        {
+            return;
+        }
         const auto Found = std::find_if(Cookies.begin(), Cookies.end(),
                                         [&](const FOrvCookie& Kept) { return Kept.Name == Cookie.Name; });
         if (Found != Cookies.end())
@@ -218,6 +228,18 @@ namespace OrvWebBridge
         else
         {
             Cookies.push_back(Cookie);
+        }
+        // Past the total, the oldest cookies go first, as browsers drop theirs.
+        const auto Size = [](const FOrvCookie& Kept) { return Kept.Name.size() + Kept.Value.size() + 2; };
+        std::size_t Total = 0;
+        for (const FOrvCookie& Kept : Cookies)
+        {
+            Total += Size(Kept);
+        }
+        while (Total > MaxJarBytes)
+        {
+            Total -= Size(Cookies.front());
+            Cookies.erase(Cookies.begin());
         }
     }
 

@@ -30,10 +30,13 @@ namespace OrvWebBridge
     /** @brief The catalogue client's cookie jar: cookies by name, as Set-Cookie headers leave them. */
     struct FOrvCookieJar
     {
+        static constexpr std::size_t MaxCookieBytes = 4096;   ///< name and value; a larger cookie is not kept
+        static constexpr std::size_t MaxJarBytes = 16 * 1024; ///< past this the oldest cookies are dropped
+
         /** Applies one Set-Cookie header value; Max-Age=0 or an empty value removes the cookie. */
         void ApplySetCookie(std::string_view HeaderValue, std::string_view RequestHost);
 
-        /** Adds or replaces (by name) a cookie. */
+        /** Adds or replaces (by name) a cookie; one with control bytes or ';', or too large, is ignored. */
         void Set(const FOrvCookie& Cookie);
 
         /** The Cookie header value for a request to Host and Path; empty when no cookie applies. */

@@ -18,8 +18,9 @@ namespace OrvWebBridge
             tcp::socket Socket;
             asio::steady_timer Timer;
             beast::flat_buffer Buffer;
-            http::request<http::string_body> Request;
+            http::request_parser<http::string_body> Parser;
             http::response<http::string_body> Response;
+            std::string Raw;
         };
     } // namespace
 
@@ -40,7 +41,9 @@ namespace OrvWebBridge
                         return;
                     }
                     auto Session = std::make_shared<FOrvTestCatalogSession>(std::move(Socket));
-                    http::async_read(Session->Socket, Session->Buffer, Session->Request,
+                    // Room for the whole cookie jar the client may send back.
+                    Session->Parser.header_limit(64 * 1024);
+                    http::async_read(Session->Socket, Session->Buffer, Session->Parser,
                                      [Self, Session](const FErrorCode& ReadError, std::size_t)
                                      {
                                          if (!ReadError && !Self->bStopped)
@@ -54,11 +57,17 @@ namespace OrvWebBridge
 
         void Respond(const std::shared_ptr<FOrvTestCatalogSession>& Session)
         {
-            const auto& Request = Session->Request;
+            const auto& Request = Session->Parser.get();
             Requests.push_back({std::string(Request.method_string()), std::string(Request.target()),
                                 std::string(Request[http::field::content_type]),
                                 std::string(Request[http::field::cookie]), Request.body()});
             const FOrvTestCatalogAnswer Reply = Answer(Requests.back());
+            if (!Reply.Raw.empty())
+            {
+                Session->Raw = Reply.Raw;
+                WriteRaw(Session, Reply);
+                return;
+            }
             auto& Response = Session->Response;
             Response.result(static_cast<unsigned>(Reply.Status));
             Response.set(http::field::content_type, "application/json");
@@ -82,6 +91,24 @@ namespace OrvWebBridge
                                               Session->Socket.shutdown(tcp::socket::shutdown_send, Ignored);
                                           });
                     }
+                });
+        }
+
+        void WriteRaw(const std::shared_ptr<FOrvTestCatalogSession>& Session,
+                      const FOrvTestCatalogAnswer& Reply)
+        {
+            asio::async_write(
+                Session->Socket, asio::buffer(Session->Raw),
+                [Self = shared_from_this(), Session, Reply](const FErrorCode& Error, std::size_t)
+                {
+                    if (Error || Self->bStopped || Reply.RawRepeat.empty())
+                    {
+                        return;
+                    }
+                    Session->Raw = Reply.RawRepeat;
+                    Session->Timer.expires_after(Seconds(Reply.RepeatSeconds));
+                    Session->Timer.async_wait([Self, Session, Reply](const FErrorCode&)
+                                              { Self->WriteRaw(Session, Reply); });
                 });
         }
 

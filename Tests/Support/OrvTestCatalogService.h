@@ -31,6 +31,11 @@ namespace OrvWebBridge
         int Status = 200;
         std::vector<std::pair<std::string, std::string>> Headers; ///< e.g. Set-Cookie, in order
         double DelaySeconds = 0.0;
+        /** A hostile service: when set, these bytes go out instead of a well-formed answer, followed by
+         *  RawRepeat over and over (every RepeatSeconds) until the client hangs up. */
+        std::string Raw;
+        std::string RawRepeat;
+        double RepeatSeconds = 0.0;
     };
 
     /**

@@ -1,6 +1,7 @@
 #include "Host/Runtime/OrvHttpCatalogApi.h"
 
 #include "Host/Runtime/OrvHostEventLoop.h"
+#include "Host/Runtime/OrvHttpUrl.h"
 #include "Tests/Support/OrvTestCatalogService.h"
 
 #include <gtest/gtest.h>
@@ -35,7 +36,21 @@ namespace
 
     FOrvTestCatalogAnswer Answer(std::string Body, int Status = 200, double DelaySeconds = 0.0)
     {
-        return FOrvTestCatalogAnswer{std::move(Body), Status, {}, DelaySeconds};
+        FOrvTestCatalogAnswer Result;
+        Result.Body = std::move(Body);
+        Result.Status = Status;
+        Result.DelaySeconds = DelaySeconds;
+        return Result;
+    }
+
+    /** A service that breaks HTTP: Raw first, then Repeat over and over, every Seconds. */
+    FOrvTestCatalogAnswer Hostile(std::string Raw, std::string Repeat = {}, double Seconds = 0.0)
+    {
+        FOrvTestCatalogAnswer Result;
+        Result.Raw = std::move(Raw);
+        Result.RawRepeat = std::move(Repeat);
+        Result.RepeatSeconds = Seconds;
+        return Result;
     }
 
     /** Posts once and runs the loop until the completion arrives, and a little more to catch a second call.
@@ -87,16 +102,29 @@ TEST(FOrvHttpCatalogApiTest, PostsJsonUnderTheBaseUrlAndHandsBackTheAnswerUntouc
     EXPECT_FALSE((*Refused.Answer)["status"].GetBool());
 }
 
-TEST(FOrvHttpCatalogApiTest, BadAnswersAndUnreachableServicesFailOnceWithTheirOwnReason)
+// A broken or hostile service must cost the host no more than the client's time and size limits: each case
+// fails once, for its own reason, never by crashing or by waiting out the deadline when a limit tripped
+// first.
+TEST(FOrvHttpCatalogApiTest, BadHostileAndUnreachableServicesFailOnceWithTheirOwnReason)
 {
     FOrvHostEventLoop Loop;
+    const std::string Ok = "HTTP/1.1 200 OK\r\nContent-Type: application/json\r\n";
+    const std::string Chunked = Ok + "Transfer-Encoding: chunked\r\n\r\n2\r\n{}\r\n";
+    FOrvTestCatalogAnswer Redirect = Answer("", 302);
+    Redirect.Headers = {{"Location", "http://127.0.0.1:1/elsewhere"}};
     const std::map<std::string, FOrvTestCatalogAnswer> Answers = {
         {"500", Answer(R"({"status":true})", 500)},
+        {"redirect", Redirect},
         {"html", Answer("<html>maintenance</html>")},
         {"array", Answer("[1,2,3]")},
         {"truncated", Answer(R"({"status":true,"products":{)")},
         {"huge", Answer(R"({"pad":")" + std::string(8192, 'x') + "\"}")},
-        {"slow", Answer(R"({"status":true})", 200, 5.0)}};
+        {"endless body", Hostile(Ok + "\r\n{\"pad\":\"", std::string(16384, 'x'))},
+        {"endless headers", Hostile(Ok, "X-Pad: " + std::string(1000, 'p') + "\r\n")},
+        {"64 KiB trailer", Hostile(Chunked + "0\r\nX-T: " + std::string(64 * 1024, 't') + "\r\n\r\n")},
+        {"endless trailer", Hostile(Chunked + "0\r\nX-T: ", std::string(16384, 't'))},
+        {"endless chunk line", Hostile(Chunked, std::string(16384, '0'))},
+        {"slowloris", Hostile(Ok, "X-A: b\r\n", 0.02)}};
     FOrvTestCatalogService Service(Loop.Context(), [&](const FOrvTestCatalogRequest& Request)
                                    { return Answers.at(Request.Body); });
     std::string ClosedBaseUrl;
@@ -114,18 +142,23 @@ TEST(FOrvHttpCatalogApiTest, BadAnswersAndUnreachableServicesFailOnceWithTheirOw
     FOrvHttpCatalogApi Refused(Loop, ClosedBaseUrl);
     FOrvHttpCatalogApi Https(Loop, "https://api.orvessa.com");
 
-    // Each case must fail for its own reason, not for some other fault along the way.
     const struct
     {
         FOrvHttpCatalogApi& Client;
         const char* Case;
         const char* Reason;
     } Cases[] = {{Api, "500", "HTTP 500"},
+                 {Api, "redirect", "HTTP 302"},
                  {Api, "html", "not JSON"},
                  {Api, "array", "not a JSON object"},
                  {Api, "truncated", "not JSON"},
-                 {Api, "huge", "larger than"},
-                 {ImpatientApi, "slow", "no answer within 0.2 s"},
+                 {Api, "huge", "larger than 4096 bytes"},
+                 {Api, "endless body", "larger than 4096 bytes"},
+                 {Api, "endless headers", "header is larger than"},
+                 {Api, "64 KiB trailer", "longer than 64 KiB"},
+                 {Api, "endless trailer", "longer than 64 KiB"},
+                 {Api, "endless chunk line", "longer than 64 KiB"},
+                 {ImpatientApi, "slowloris", "no answer within 0.2 s"},
                  {Refused, "refused", ""},
                  {Https, "https", "https"}};
     for (const auto& [Client, Case, Reason] : Cases)
@@ -172,6 +205,16 @@ TEST(FOrvHttpCatalogApiTest, CookiesSetByTheServiceAreKeptAndSentBack)
             {
                 Result.Headers = {{"Set-Cookie", "session=; Max-Age=0"}};
             }
+            if (Request.Body.starts_with("flood"))
+            {
+                // Every cookie fits the bounds, together they would pass Beast's 64 KiB field limit.
+                for (int Index = 0; Index < 8; ++Index)
+                {
+                    Result.Headers.emplace_back("Set-Cookie", Request.Body + std::to_string(Index) + "=" +
+                                                                  std::string(3000, 'c'));
+                }
+                Result.Headers.emplace_back("Set-Cookie", "huge=" + std::string(5000, 'h'));
+            }
             return Result;
         });
     FOrvHttpCatalogApi Api(Loop, Service.GetBaseUrl());
@@ -192,15 +235,27 @@ TEST(FOrvHttpCatalogApiTest, CookiesSetByTheServiceAreKeptAndSentBack)
     PostAndWait(Loop, Api, "logout");
     PostAndWait(Loop, Api, "after");
     EXPECT_EQ(Service.GetRequests().back().Cookie, "region=eu");
+
+    // A service that floods the jar: the newest cookies are kept within its bounds, and requests go on.
+    for (const char* Flood : {"floodA", "floodB", "floodC"})
+    {
+        PostAndWait(Loop, Api, Flood);
+    }
+    Api.SetCookie(FOrvCookie{"forged", "x\r\nHost: evil", "127.0.0.1", "/"});
+    EXPECT_TRUE(PostAndWait(Loop, Api, "after").bSuccess);
+    const std::string& Sent = Service.GetRequests().back().Cookie;
+    EXPECT_LE(Sent.size(), FOrvCookieJar::MaxJarBytes);
+    EXPECT_NE(Sent.find("floodC7="), std::string::npos);
+    EXPECT_EQ(Sent.find("floodA0="), std::string::npos);
+    EXPECT_EQ(Sent.find("huge="), std::string::npos);
+    EXPECT_EQ(Sent.find("forged="), std::string::npos);
 }
 
 TEST(FOrvHttpCatalogApiTest, DestroyingTheClientFirstDropsTheCompletionSafely)
 {
     FOrvHostEventLoop Loop;
-    FOrvTestCatalogService Service(Loop.Context(),
-                                   [](const FOrvTestCatalogRequest&) {
-                                       return FOrvTestCatalogAnswer{R"({"status":true})", 200, {}, 0.05};
-                                   });
+    FOrvTestCatalogService Service(Loop.Context(), [](const FOrvTestCatalogRequest&)
+                                   { return Answer(R"({"status":true})", 200, 0.05); });
     FOrvApiOutcome Outcome;
     {
         auto Api = std::make_unique<FOrvHttpCatalogApi>(Loop, Service.GetBaseUrl());
