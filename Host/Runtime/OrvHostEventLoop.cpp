@@ -1,5 +1,7 @@
 #include "Host/Runtime/OrvHostEventLoop.h"
 
+#include "Core/Common/OrvStrings.h"
+
 #include <utility>
 
 #include <boost/asio/executor_work_guard.hpp>
@@ -9,6 +11,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <exception>
 #include <unordered_map>
 
 namespace OrvWebBridge
@@ -122,7 +125,7 @@ namespace OrvWebBridge
         return State->Context;
     }
 
-    void FOrvHostEventLoop::Run()
+    void FOrvHostEventLoop::Run(IOrvLog* Log)
     {
         boost::asio::io_context& Context = State->Context;
         if (Context.stopped())
@@ -131,7 +134,25 @@ namespace OrvWebBridge
         }
         // Without work the context would return at once; Run is meant to last until Stop.
         auto Guard = boost::asio::make_work_guard(Context);
-        Context.run();
+        while (true)
+        {
+            try
+            {
+                Context.run();
+                return;
+            }
+            catch (const std::exception& Error)
+            {
+                if (!Log)
+                {
+                    throw;
+                }
+                // The throwing handler is gone and released what it held; the context carries on.
+                Log->Log(EOrvLogCategory::LogTemp, EOrvLogVerbosity::Error,
+                         FOrvStrings::Printf("orv-host: a request failed inside the host (%s); still serving",
+                                             Error.what()));
+            }
+        }
     }
 
     bool FOrvHostEventLoop::RunUntil(const std::function<bool()>& Done, double TimeoutSeconds)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Core/Ports/IOrvGameThread.h"
+#include "Core/Ports/IOrvLog.h"
 #include "Core/Ports/IOrvTimers.h"
 
 #include <functional>
@@ -29,8 +30,9 @@ namespace OrvWebBridge
         IOrvTimers& Timers();
         boost::asio::io_context& Context();
 
-        /** Runs until Stop is called. */
-        void Run();
+        /** Runs until Stop is called. With a log, a handler that throws is logged as an error and the loop
+         * runs on: the user's unsaved level outlives one failed request. */
+        void Run(IOrvLog* Log = nullptr);
 
         /** Runs until Done() is true (checked after each handler) or the time is up; false on timeout. */
         bool RunUntil(const std::function<bool()>& Done, double TimeoutSeconds);

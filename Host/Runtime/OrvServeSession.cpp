@@ -77,7 +77,7 @@ namespace OrvWebBridge
 
     int FOrvServeSession::Run()
     {
-        Loop.Run();
+        Loop.Run(&Log);
         Input.Stop();
         Signals.reset();
         Endpoint.Stop();

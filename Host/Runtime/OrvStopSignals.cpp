@@ -13,8 +13,13 @@ namespace OrvWebBridge
     struct FOrvStopSignals::FState : std::enable_shared_from_this<FOrvStopSignals::FState>
     {
         FState(boost::asio::io_context& Context, std::function<void(int)> InOnSignal)
-            : Signals(Context, SIGINT, SIGTERM), OnSignal(std::move(InOnSignal))
+            : Signals(Context), OnSignal(std::move(InOnSignal))
         {
+            // The error_code forms: a signal that cannot be watched leaves Ctrl+C to its default, it does not
+            // stop the host from starting.
+            boost::system::error_code Ignored;
+            Signals.add(SIGINT, Ignored);
+            Signals.add(SIGTERM, Ignored);
         }
 
         void Wait()

@@ -1,7 +1,9 @@
 #include "Host/Runtime/OrvHostEventLoop.h"
+#include "Tests/Support/OrvRecordingLog.h"
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -63,4 +65,23 @@ TEST(FOrvHostEventLoopTest, StopEndsRunAndRunUntilGivesUpAtItsTimeout)
     Loop.GameThread().Post([&] { bAfterStop = true; });
     EXPECT_TRUE(Loop.RunUntil([&] { return bAfterStop; }, 5.0)) << "the loop runs again after a stop";
     EXPECT_FALSE(Loop.RunUntil([] { return false; }, 0.02));
+}
+
+TEST(FOrvHostEventLoopTest, AHandlerThatThrowsIsLoggedAndTheLoopServesOn)
+{
+    FOrvHostEventLoop Loop;
+    FOrvRecordingLog Log;
+    bool bRanAfter = false;
+    Loop.GameThread().Post([] { throw std::length_error("field value too large"); });
+    Loop.GameThread().Post(
+        [&]
+        {
+            bRanAfter = true;
+            Loop.Stop();
+        });
+    Loop.Run(&Log);
+    EXPECT_TRUE(bRanAfter);
+    EXPECT_TRUE(
+        Log.Contains(EOrvLogVerbosity::Error,
+                     "orv-host: a request failed inside the host (field value too large); still serving"));
 }
