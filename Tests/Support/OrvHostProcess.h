@@ -36,6 +36,7 @@ namespace OrvWebBridge
         std::optional<int> WaitForExit(double TimeoutSeconds);
 
         const std::string& GetOutput() const { return Output; }
+        pid_t GetPid() const { return Pid; }
         std::string GetErrors() const;
 
     private:
