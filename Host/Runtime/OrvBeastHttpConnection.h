@@ -43,7 +43,7 @@ namespace OrvWebBridge
      * most one answer: the next request is neither read nor handled before the answer is sent, so a client
      * that never reads holds one answer for SendTimeoutSeconds at most. A request for an event stream that
      * its handler accepts turns the connection into that stream until either side ends it (the stream part
-     * lives in OrvBeastHttpEventStream.cpp).
+     * lives in OrvBeastHttpEventStream.cpp, the answering half in OrvBeastHttpConnectionAnswer.cpp).
      */
     class FOrvBeastHttpConnection : public std::enable_shared_from_this<FOrvBeastHttpConnection>
     {
