@@ -1,0 +1,46 @@
+#include "Unreal/OrvUnrealEditorUi.h"
+
+#include "OrvessaWebBridge.h"
+#include "Unreal/OrvUnrealConversions.h"
+#include "Unreal/OrvUnrealHandles.h"
+#if ORV_WITH_CLOSED_MODULES
+#include "Unreal/Closed/OrvClosedAccount.h"
+#endif
+
+#include "AssetRegistry/AssetData.h"
+#include "ContentBrowserModule.h"
+#include "Engine/StaticMesh.h"
+#include "IContentBrowserSingleton.h"
+#include "Modules/ModuleManager.h"
+
+namespace OrvWebBridge
+{
+    void FOrvUnrealEditorUi::NavigateWebPanel(std::string_view Url)
+    {
+        if (FOrvessaWebBridgeModule* Module = FOrvessaWebBridgeModule::GetLoaded())
+        {
+            Module->NavigateWebPanel(FOrvUnrealConversions::ToFString(Url));
+        }
+    }
+
+    void FOrvUnrealEditorUi::SyncContentBrowserToMesh(FOrvMeshRef Mesh)
+    {
+        UStaticMesh* Resolved = Handles.ResolveMesh(Mesh);
+        if (!Resolved)
+        {
+            return;
+        }
+        FContentBrowserModule& ContentBrowser =
+            FModuleManager::LoadModuleChecked<FContentBrowserModule>("ContentBrowser");
+        ContentBrowser.Get().SyncBrowserToAssets(TArray<FAssetData>{FAssetData(Resolved)});
+    }
+
+    bool FOrvUnrealEditorUi::IsUserLoggedIn() const
+    {
+#if ORV_WITH_CLOSED_MODULES
+        return OrvClosedIsUserLoggedIn();
+#else
+        return false;
+#endif
+    }
+} // namespace OrvWebBridge
