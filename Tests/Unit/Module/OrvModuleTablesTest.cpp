@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <fstream>
+#include <iterator>
 #include <set>
 #include <string>
 #include <vector>
@@ -21,6 +24,22 @@ namespace
             Icons.push_back(Entry.Icon);
         }
         return Icons;
+    }
+
+    std::string ReadResource(const std::string& FileName)
+    {
+        std::ifstream Stream(std::string("Resources/") + FileName, std::ios::binary);
+        return {std::istreambuf_iterator<char>(Stream), std::istreambuf_iterator<char>()};
+    }
+
+    std::uint32_t BigEndian32(const std::string& Bytes, std::size_t Offset)
+    {
+        std::uint32_t Value = 0;
+        for (std::size_t Index = 0; Index < 4; ++Index)
+        {
+            Value = (Value << 8) | static_cast<unsigned char>(Bytes.at(Offset + Index));
+        }
+        return Value;
     }
 } // namespace
 
@@ -73,4 +92,28 @@ TEST(FOrvModuleTablesTest, NamesTheEditorSavedLayoutsAndOtherModulesLookUpAreKep
     EXPECT_EQ(FOrvModuleMenus::WindowMenuEntry.Opens, EOrvModuleTab::Outliner);
     EXPECT_EQ(FOrvModuleMenus::ComboEntries[0].Opens, EOrvModuleTab::Catalog);
     EXPECT_EQ(FOrvModuleMenus::ComboEntries[1].Opens, EOrvModuleTab::Outliner);
+}
+
+TEST(FOrvModuleTablesTest, EveryBrushImageIsInResourcesAndSquare)
+{
+    for (const FOrvBrushEntry& Brush : FOrvStyleTable::Brushes)
+    {
+        const std::string FileName = std::string(Brush.File) + Brush.Extension;
+        const std::string Image = ReadResource(FileName);
+        ASSERT_FALSE(Image.empty()) << "Resources/" << FileName << " is missing; " << Brush.StyleName
+                                    << " would draw the missing-image pattern";
+        if (std::string(Brush.Extension) == ".png")
+        {
+            // The IHDR chunk right after the signature holds width and height.
+            ASSERT_EQ(Image.compare(1, 3, "PNG"), 0) << FileName;
+            EXPECT_EQ(BigEndian32(Image, 16), static_cast<std::uint32_t>(Brush.Size)) << FileName;
+            EXPECT_EQ(BigEndian32(Image, 20), static_cast<std::uint32_t>(Brush.Size)) << FileName;
+        }
+        else
+        {
+            // Drawn at any size from one square view box.
+            EXPECT_NE(Image.find("<svg"), std::string::npos) << FileName;
+            EXPECT_NE(Image.find("viewBox=\"0 0 64 64\""), std::string::npos) << FileName;
+        }
+    }
 }
