@@ -29,16 +29,16 @@ void SOrvOutlinerExportDialog::OpenDialog(const FString& DefaultProjectName, FOn
     {
         return;
     }
-    const TSharedRef<SWindow> Window = SNew(SWindow)
-                                           .Title(LOCTEXT("WindowTitle", "Export Product Schedule"))
-                                           .SizingRule(ESizingRule::Autosized)
-                                           .SupportsMinimize(false)
-                                           .SupportsMaximize(false);
-    Window->SetContent(SNew(SOrvOutlinerExportDialog)
-                           .DefaultProjectName(DefaultProjectName)
-                           .OnExport(MoveTemp(OnExport))
-                           .ParentWindow(Window));
-    FSlateApplication::Get().AddModalWindow(Window, FGlobalTabmanager::Get()->GetRootWindow());
+    const TSharedRef<SWindow> DialogWindow = SNew(SWindow)
+                                                 .Title(LOCTEXT("WindowTitle", "Export Product Schedule"))
+                                                 .SizingRule(ESizingRule::Autosized)
+                                                 .SupportsMinimize(false)
+                                                 .SupportsMaximize(false);
+    DialogWindow->SetContent(SNew(SOrvOutlinerExportDialog)
+                                 .DefaultProjectName(DefaultProjectName)
+                                 .OnExport(MoveTemp(OnExport))
+                                 .ParentWindow(DialogWindow));
+    FSlateApplication::Get().AddModalWindow(DialogWindow, FGlobalTabmanager::Get()->GetRootWindow());
 }
 
 void SOrvOutlinerExportDialog::Construct(const FArguments& InArgs)

@@ -1,11 +1,9 @@
 #include "Unreal/OrvUnrealEditorUi.h"
 
 #include "OrvessaWebBridge.h"
+#include "Unreal/Closed/OrvClosedAccount.h"
 #include "Unreal/OrvUnrealConversions.h"
 #include "Unreal/OrvUnrealHandles.h"
-#if ORV_WITH_CLOSED_MODULES
-#include "Unreal/Closed/OrvClosedAccount.h"
-#endif
 
 #include "AssetRegistry/AssetData.h"
 #include "ContentBrowserModule.h"
@@ -37,10 +35,6 @@ namespace OrvWebBridge
 
     bool FOrvUnrealEditorUi::IsUserLoggedIn() const
     {
-#if ORV_WITH_CLOSED_MODULES
         return OrvClosedIsUserLoggedIn();
-#else
-        return false;
-#endif
     }
 } // namespace OrvWebBridge

@@ -69,7 +69,7 @@ namespace OrvWebBridge
             {
                 return false;
             }
-            InputProcessor = MakeShared<FOrvInputProcessor>(&Module);
+            InputProcessor = MakeShared<FOrvInputProcessor>();
             return FSlateApplication::Get().RegisterInputPreProcessor(InputProcessor);
         case EOrvModuleStep::MenuStartupCallback:
             MenuStartupHandle =

@@ -1,12 +1,15 @@
 #pragma once
 
-// Calls into the maker's closed core module (OrvCore). Compiled only when that module is present.
-#if ORV_WITH_CLOSED_MODULES
-
 namespace OrvWebBridge
 {
-    /** The catalogue account's sign-in state (UOrvSubsystem); false without the subsystem. */
+#if ORV_WITH_CLOSED_MODULES
+    /** The catalogue account's sign-in state (the maker's UOrvSubsystem); false without the subsystem. */
     bool OrvClosedIsUserLoggedIn();
-} // namespace OrvWebBridge
-
+#else
+    /** Without the maker's core module nobody is signed in to the catalogue. */
+    inline bool OrvClosedIsUserLoggedIn()
+    {
+        return false;
+    }
 #endif
+} // namespace OrvWebBridge
