@@ -10,178 +10,104 @@ namespace OrvWebBridge
 {
     namespace
     {
-        enum class ETokenKind
-        {
-            Identifier,
-            String, ///< Text holds the decoded value
-            Punct,
-            Other,
-        };
-
         struct FToken
         {
-            ETokenKind Kind;
+            bool bString; ///< a string literal, Text decoded; else an identifier, number or punctuation mark
             std::string Text;
             int Line;
         };
 
-        bool IsIdentifierChar(char C)
+        bool IsWordChar(char C)
         {
             return std::isalnum(static_cast<unsigned char>(C)) || C == '_';
         }
 
-        /** C++ source to tokens, comments dropped; only string literals are decoded. */
-        class FTokenizer
+        /** C++ source to tokens: comments dropped, string literals (plain, prefixed, raw) decoded. */
+        std::vector<FToken> Tokenize(std::string_view Source)
         {
-        public:
-            explicit FTokenizer(std::string_view InSource) : Source(InSource) {}
-
-            std::vector<FToken> Run()
+            std::vector<FToken> Tokens;
+            std::size_t Pos = 0;
+            int Line = 1;
+            const auto Skip = [&](std::size_t End)
             {
-                while (Pos < Source.size())
+                End = std::min(End, Source.size());
+                Line += static_cast<int>(std::count(Source.begin() + Pos, Source.begin() + End, '\n'));
+                Pos = End;
+            };
+            while (Pos < Source.size())
+            {
+                const char C = Source[Pos];
+                const std::size_t WordEnd =
+                    std::find_if_not(Source.begin() + Pos, Source.end(), IsWordChar) - Source.begin();
+                const std::string_view Word = Source.substr(Pos, WordEnd - Pos);
+                const bool bQuoteAfterWord = WordEnd < Source.size() && Source[WordEnd] == '"';
+                if (std::isspace(static_cast<unsigned char>(C)))
                 {
-                    const char C = Source[Pos];
-                    if (C == '\n')
-                    {
-                        ++Line;
-                        ++Pos;
-                    }
-                    else if (std::isspace(static_cast<unsigned char>(C)))
-                    {
-                        ++Pos;
-                    }
-                    else if (Source.substr(Pos, 2) == "//")
-                    {
-                        Pos = std::min(Source.find('\n', Pos), Source.size());
-                    }
-                    else if (Source.substr(Pos, 2) == "/*")
-                    {
-                        const std::size_t End = std::min(Source.find("*/", Pos + 2), Source.size());
-                        Line +=
-                            static_cast<int>(std::count(Source.begin() + Pos, Source.begin() + End, '\n'));
-                        Pos = std::min(End + 2, Source.size());
-                    }
-                    else if (C == '"')
-                    {
-                        ReadString();
-                    }
-                    else if (C == '\'')
-                    {
-                        SkipCharacterLiteral();
-                    }
-                    else if (IsIdentifierChar(C))
-                    {
-                        ReadWord();
-                    }
-                    else
-                    {
-                        Tokens.push_back({ETokenKind::Punct, std::string(1, C), Line});
-                        ++Pos;
-                    }
+                    Skip(Pos + 1);
                 }
-                return std::move(Tokens);
-            }
-
-        private:
-            void ReadWord()
-            {
-                const std::size_t Start = Pos;
-                while (Pos < Source.size() && IsIdentifierChar(Source[Pos]))
+                else if (Source.substr(Pos, 2) == "//")
                 {
+                    Skip(Source.find('\n', Pos));
+                }
+                else if (Source.substr(Pos, 2) == "/*")
+                {
+                    Skip(Source.find("*/", Pos) + 2);
+                }
+                else if (bQuoteAfterWord &&
+                         (Word == "R" || Word == "LR" || Word == "uR" || Word == "UR" || Word == "u8R"))
+                {
+                    // R"delim( ... )delim"
+                    const std::size_t Open = Source.find('(', WordEnd);
+                    const std::string Close =
+                        ")" + std::string(Source.substr(WordEnd + 1, Open - WordEnd - 1)) + "\"";
+                    const std::size_t End = std::min(Source.find(Close, Open), Source.size());
+                    Tokens.push_back({true, std::string(Source.substr(Open + 1, End - Open - 1)), Line});
+                    Skip(End + Close.size());
+                }
+                else if (C == '"' ||
+                         (bQuoteAfterWord && (Word == "L" || Word == "u" || Word == "U" || Word == "u8")))
+                {
+                    FToken Token{true, "", Line};
+                    for (Pos = Source.find('"', Pos) + 1; Pos < Source.size() && Source[Pos] != '"'; ++Pos)
+                    {
+                        if (Source[Pos] == '\\' && ++Pos < Source.size())
+                        {
+                            const char Escaped = Source[Pos];
+                            Token.Text += Escaped == 'n'   ? '\n'
+                                          : Escaped == 't' ? '\t'
+                                          : Escaped == 'r' ? '\r'
+                                                           : Escaped;
+                            continue;
+                        }
+                        Token.Text += Source[Pos];
+                    }
                     ++Pos;
+                    Tokens.push_back(std::move(Token));
                 }
-                const std::string_view Word = Source.substr(Start, Pos - Start);
-                const bool bQuoteFollows = Pos < Source.size() && Source[Pos] == '"';
-                if (bQuoteFollows &&
-                    (Word == "R" || Word == "LR" || Word == "uR" || Word == "UR" || Word == "u8R"))
+                else if (C == '\'')
                 {
-                    ReadRawString();
-                }
-                else if (bQuoteFollows && (Word == "L" || Word == "u" || Word == "U" || Word == "u8"))
-                {
-                    ReadString();
+                    // A character literal: only skipped, so that '"' never opens a string.
+                    for (++Pos; Pos < Source.size() && Source[Pos] != '\'';
+                         Pos += Source[Pos] == '\\' ? 2 : 1)
+                    {
+                    }
+                    Skip(Pos + 1);
                 }
                 else
                 {
-                    const bool bNumber = std::isdigit(static_cast<unsigned char>(Word[0])) != 0;
-                    Tokens.push_back(
-                        {bNumber ? ETokenKind::Other : ETokenKind::Identifier, std::string(Word), Line});
+                    const std::size_t End = Word.empty() ? Pos + 1 : WordEnd;
+                    Tokens.push_back({false, std::string(Source.substr(Pos, End - Pos)), Line});
+                    Pos = End;
                 }
             }
+            return Tokens;
+        }
 
-            void ReadString()
-            {
-                const int StartLine = Line;
-                std::string Value;
-                ++Pos; // opening quote
-                while (Pos < Source.size() && Source[Pos] != '"' && Source[Pos] != '\n')
-                {
-                    char C = Source[Pos++];
-                    if (C == '\\' && Pos < Source.size())
-                    {
-                        C = DecodeEscape();
-                    }
-                    Value.push_back(C);
-                }
-                ++Pos; // closing quote
-                Tokens.push_back({ETokenKind::String, std::move(Value), StartLine});
-            }
-
-            char DecodeEscape()
-            {
-                const char Escaped = Source[Pos++];
-                switch (Escaped)
-                {
-                case 'n':
-                    return '\n';
-                case 't':
-                    return '\t';
-                case 'r':
-                    return '\r';
-                case '0':
-                    return '\0';
-                case 'x':
-                {
-                    int Value = 0;
-                    while (Pos < Source.size() && std::isxdigit(static_cast<unsigned char>(Source[Pos])))
-                    {
-                        Value = Value * 16 + std::stoi(std::string(1, Source[Pos++]), nullptr, 16);
-                    }
-                    return static_cast<char>(Value);
-                }
-                default: // \\ \" \' \?
-                    return Escaped;
-                }
-            }
-
-            void ReadRawString()
-            {
-                const int StartLine = Line;
-                const std::size_t OpenParen = Source.find('(', Pos);
-                const std::string Closing =
-                    ")" + std::string(Source.substr(Pos + 1, OpenParen - Pos - 1)) + "\"";
-                const std::size_t End = std::min(Source.find(Closing, OpenParen), Source.size());
-                std::string Value(Source.substr(OpenParen + 1, End - OpenParen - 1));
-                Line += static_cast<int>(std::count(Value.begin(), Value.end(), '\n'));
-                Pos = std::min(End + Closing.size(), Source.size());
-                Tokens.push_back({ETokenKind::String, std::move(Value), StartLine});
-            }
-
-            void SkipCharacterLiteral()
-            {
-                ++Pos;
-                while (Pos < Source.size() && Source[Pos] != '\'' && Source[Pos] != '\n')
-                {
-                    Pos += Source[Pos] == '\\' ? 2 : 1;
-                }
-                ++Pos;
-                Tokens.push_back({ETokenKind::Other, "'", Line});
-            }
-
-            std::string_view Source;
-            std::size_t Pos = 0;
-            int Line = 1;
-            std::vector<FToken> Tokens;
+        /** One argument of a macro call: its joined string literals, or its tokens joined without blanks. */
+        struct FArgument
+        {
+            bool bLiteral = true; ///< made of string literals only
+            std::string Text;
         };
 
         /** Walks the tokens of one file and collects its localised literals. */
@@ -196,171 +122,108 @@ namespace OrvWebBridge
 
             void Run()
             {
-                for (Pos = 0; Pos < Tokens.size(); ++Pos)
+                for (std::size_t At = 0; At < Tokens.size(); ++At)
                 {
-                    if (IsPunct(Pos, "#") && IsWord(Pos + 1, "define") &&
-                        IsWord(Pos + 2, "LOCTEXT_NAMESPACE"))
+                    if (Is(At, "#") && Is(At + 2, "LOCTEXT_NAMESPACE") &&
+                        (Is(At + 1, "define") || Is(At + 1, "undef")))
                     {
-                        Pos += 3;
-                        Namespace = ReadStrings();
-                        if (!Namespace)
-                        {
-                            Error("LOCTEXT_NAMESPACE is not defined as a string literal");
-                        }
+                        const bool bDefine =
+                            Is(At + 1, "define") && At + 3 < Tokens.size() && Tokens[At + 3].bString;
+                        Namespace = bDefine ? std::optional(Tokens[At + 3].Text) : std::nullopt;
                     }
-                    else if (IsPunct(Pos, "#") && IsWord(Pos + 1, "undef") &&
-                             IsWord(Pos + 2, "LOCTEXT_NAMESPACE"))
+                    else if ((Is(At, "LOCTEXT") || Is(At, "NSLOCTEXT") || Is(At, "UI_COMMAND")) &&
+                             Is(At + 1, "("))
                     {
-                        Namespace.reset();
-                    }
-                    else if (IsWord(Pos, "LOCTEXT") && IsPunct(Pos + 1, "("))
-                    {
-                        ReadLocText();
-                    }
-                    else if (IsWord(Pos, "NSLOCTEXT") && IsPunct(Pos + 1, "("))
-                    {
-                        ReadNsLocText();
-                    }
-                    else if (IsWord(Pos, "UI_COMMAND") && IsPunct(Pos + 1, "("))
-                    {
-                        ReadUiCommand();
+                        ReadCall(At);
                     }
                 }
             }
 
         private:
-            void ReadLocText()
+            void ReadCall(std::size_t At)
             {
-                const std::size_t Start = Pos;
-                Pos += 2;
-                std::optional<std::string> Key = ReadStrings();
-                std::optional<std::string> Text = Key && Skip(",") ? ReadStrings() : std::nullopt;
-                if (!Text || !Skip(")"))
+                const std::string& Macro = Tokens[At].Text;
+                const std::string Where = FileName + ":" + std::to_string(Tokens[At].Line);
+                const std::vector<FArgument> Args = ReadArguments(At + 2);
+                const auto Literals = [&](std::size_t Count)
                 {
-                    return Error("LOCTEXT takes two string literals", Start);
+                    return std::all_of(Args.begin(), Args.begin() + std::min(Count, Args.size()),
+                                       [](const FArgument& Arg) { return Arg.bLiteral; });
+                };
+                const bool bNsLocText = Macro == "NSLOCTEXT";
+                const bool bLocText = Macro == "LOCTEXT";
+                if (bNsLocText && (Args.size() != 3 || !Literals(3)))
+                {
+                    return Error(Where, "NSLOCTEXT takes three string literals");
+                }
+                if (bLocText && (Args.size() != 2 || !Literals(2)))
+                {
+                    return Error(Where, "LOCTEXT takes two string literals");
+                }
+                const bool bCommandShape =
+                    Args.size() == 5 && !Args[0].bLiteral && Args[1].bLiteral && Args[2].bLiteral;
+                if (!bNsLocText && !bLocText && !bCommandShape)
+                {
+                    return Error(
+                        Where, "UI_COMMAND takes a name, a label and a tooltip literal, a type and a chord");
+                }
+                if (bNsLocText)
+                {
+                    Out.Texts.push_back({Where, Args[0].Text, Args[1].Text, Args[2].Text});
+                    return;
                 }
                 if (!Namespace)
                 {
-                    return Error("LOCTEXT outside a LOCTEXT_NAMESPACE", Start);
+                    return Error(Where, Macro + " outside a LOCTEXT_NAMESPACE");
                 }
-                Out.Texts.push_back({Where(Start), *Namespace, *Key, *Text});
+                if (bLocText)
+                {
+                    Out.Texts.push_back({Where, *Namespace, Args[0].Text, Args[1].Text});
+                    return;
+                }
+                Out.Texts.push_back({Where, *Namespace, Args[0].Text, Args[1].Text});
+                Out.Texts.push_back({Where, *Namespace, Args[0].Text + "_ToolTip", Args[2].Text});
+                Out.Commands.push_back({Where, *Namespace, Args[0].Text, Args[1].Text, Args[2].Text,
+                                        Args[3].Text, Args[4].Text});
             }
 
-            void ReadNsLocText()
+            /** The arguments of the call whose first argument starts at At, up to its closing parenthesis. */
+            std::vector<FArgument> ReadArguments(std::size_t At) const
             {
-                const std::size_t Start = Pos;
-                Pos += 2;
-                std::optional<std::string> TextNamespace = ReadStrings();
-                std::optional<std::string> Key = TextNamespace && Skip(",") ? ReadStrings() : std::nullopt;
-                std::optional<std::string> Text = Key && Skip(",") ? ReadStrings() : std::nullopt;
-                if (!Text || !Skip(")"))
+                std::vector<FArgument> Args(1);
+                for (int Depth = 0; At < Tokens.size(); ++At)
                 {
-                    return Error("NSLOCTEXT takes three string literals", Start);
-                }
-                Out.Texts.push_back({Where(Start), *TextNamespace, *Key, *Text});
-            }
-
-            void ReadUiCommand()
-            {
-                const std::size_t Start = Pos;
-                Pos += 2;
-                FOrvCommandLiteral Command;
-                Command.Where = Where(Start);
-                if (Pos >= Tokens.size() || Tokens[Pos].Kind != ETokenKind::Identifier)
-                {
-                    return Error("UI_COMMAND's first argument is not a command name", Start);
-                }
-                Command.Name = Tokens[Pos++].Text;
-                std::optional<std::string> Label = Skip(",") ? ReadStrings() : std::nullopt;
-                std::optional<std::string> Tooltip = Label && Skip(",") ? ReadStrings() : std::nullopt;
-                if (!Tooltip || !Skip(","))
-                {
-                    return Error("UI_COMMAND's label and tooltip are not string literals", Start);
-                }
-                if (!Namespace)
-                {
-                    return Error("UI_COMMAND outside a LOCTEXT_NAMESPACE", Start);
-                }
-                Command.Namespace = *Namespace;
-                Command.Label = *Label;
-                Command.Tooltip = *Tooltip;
-                Command.ActionType = ReadExpression();
-                Command.Chord = Skip(",") ? ReadExpression() : std::string();
-                if (!Skip(")"))
-                {
-                    return Error("UI_COMMAND has more arguments than the five read here", Start);
-                }
-                Out.Texts.push_back({Command.Where, Command.Namespace, Command.Name, Command.Label});
-                Out.Texts.push_back(
-                    {Command.Where, Command.Namespace, Command.Name + "_ToolTip", Command.Tooltip});
-                Out.Commands.push_back(std::move(Command));
-            }
-
-            /** Adjacent string literals joined, as the compiler joins them; nothing when there is none. */
-            std::optional<std::string> ReadStrings()
-            {
-                if (Pos >= Tokens.size() || Tokens[Pos].Kind != ETokenKind::String)
-                {
-                    return std::nullopt;
-                }
-                std::string Joined;
-                while (Pos < Tokens.size() && Tokens[Pos].Kind == ETokenKind::String)
-                {
-                    Joined += Tokens[Pos++].Text;
-                }
-                return Joined;
-            }
-
-            /** Tokens up to the next "," or ")" outside brackets, joined without blanks. */
-            std::string ReadExpression()
-            {
-                std::string Text;
-                int Depth = 0;
-                for (; Pos < Tokens.size(); ++Pos)
-                {
-                    const std::string& Token = Tokens[Pos].Text;
-                    if (Depth == 0 && (Token == "," || Token == ")") && Tokens[Pos].Kind == ETokenKind::Punct)
+                    const FToken& Token = Tokens[At];
+                    const bool bPunct = !Token.bString;
+                    if (bPunct && Depth == 0 && (Token.Text == ")" || Token.Text == ","))
                     {
-                        break;
+                        if (Token.Text == ")")
+                        {
+                            break;
+                        }
+                        Args.emplace_back();
+                        continue;
                     }
-                    Depth += (Token == "(") - (Token == ")");
-                    Text += Token;
+                    Depth += bPunct && (Token.Text == "(") ? 1 : bPunct && (Token.Text == ")") ? -1 : 0;
+                    Args.back().bLiteral = Args.back().bLiteral && Token.bString;
+                    Args.back().Text += Token.Text;
                 }
-                return Text;
+                return Args;
             }
 
-            bool Skip(std::string_view Punct)
+            bool Is(std::size_t At, std::string_view Text) const
             {
-                if (!IsPunct(Pos, Punct))
-                {
-                    return false;
-                }
-                ++Pos;
-                return true;
+                return At < Tokens.size() && !Tokens[At].bString && Tokens[At].Text == Text;
             }
-            bool IsPunct(std::size_t At, std::string_view Text) const
-            {
-                return At < Tokens.size() && Tokens[At].Kind == ETokenKind::Punct && Tokens[At].Text == Text;
-            }
-            bool IsWord(std::size_t At, std::string_view Text) const
-            {
-                return At < Tokens.size() && Tokens[At].Kind == ETokenKind::Identifier &&
-                       Tokens[At].Text == Text;
-            }
-            std::string Where(std::size_t At) const
-            {
-                return std::string(FileName) + ":" + std::to_string(At < Tokens.size() ? Tokens[At].Line : 0);
-            }
-            void Error(std::string_view Message, std::size_t At)
-            {
-                Out.Errors.push_back(Where(At) + ": " + std::string(Message));
-            }
-            void Error(std::string_view Message) { Error(Message, Pos); }
 
-            std::string_view FileName;
+            void Error(const std::string& Where, const std::string& Message)
+            {
+                Out.Errors.push_back(Where + ": " + Message);
+            }
+
+            std::string FileName;
             std::vector<FToken> Tokens;
             FOrvUnrealLiterals& Out;
-            std::size_t Pos = 0;
             std::optional<std::string> Namespace;
         };
     } // namespace
@@ -371,9 +234,11 @@ namespace OrvWebBridge
         for (const auto& Entry : std::filesystem::recursive_directory_iterator(SourceRoot))
         {
             const std::filesystem::path& Path = Entry.path();
-            const std::string Relative = std::filesystem::relative(Path, SourceRoot).generic_string();
             const bool bSource = Path.extension() == ".h" || Path.extension() == ".cpp";
-            if (Entry.is_regular_file() && bSource && Relative.find("Private/Core/") == std::string::npos)
+            const bool bCore =
+                std::filesystem::relative(Path, SourceRoot).generic_string().find("Private/Core/") !=
+                std::string::npos;
+            if (Entry.is_regular_file() && bSource && !bCore)
             {
                 Files.push_back(Path);
             }
@@ -393,6 +258,6 @@ namespace OrvWebBridge
 
     void FOrvUnrealLiterals::ScanText(std::string_view FileName, std::string_view Source)
     {
-        FLiteralReader(FileName, FTokenizer(Source).Run(), *this).Run();
+        FLiteralReader(FileName, Tokenize(Source), *this).Run();
     }
 } // namespace OrvWebBridge

@@ -111,6 +111,7 @@ TEST(FOrvUnrealLiteralsTest, ReadsLiteralsTheWayTheLocalisationGathererDoes)
         auto B = NSLOCTEXT("Own", "Key", "Text");
         auto C = LOCTEXT("Orphan", "no namespace here");
         auto D = LOCTEXT("NotLiteral", SomeVariable);
+        const char Quote = '"'; auto Script = R"js(run("LOCTEXT(\"k\", \"t\")"))js";
     )cpp");
 
     ASSERT_EQ(Literals.Texts.size(), 4u);
