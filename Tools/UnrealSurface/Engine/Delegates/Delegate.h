@@ -1,0 +1,193 @@
+#pragma once
+
+// Engine: Runtime/Core/Public/Delegates/Delegate.h and DelegateSignatureImpl.inl (module Core).
+// Docs:
+//   https://dev.epicgames.com/documentation/unreal-engine/API/Runtime/Core/TDelegateRegistration_InRetValTy-
+//   https://dev.epicgames.com/documentation/unreal-engine/API/Runtime/Core/TDelegateRegistration_InRetValTy-/BindRaw
+//
+// A stand-in that checks what the engine's templates check: a lambda must be callable with the delegate's
+// parameters (then any payload) and give its result; a method bound with Raw, SP or UObject must have
+// exactly the delegate's signature (payload types appended), const when the object is const; SP binding
+// from a raw pointer needs a TSharedFromThis class. Only the DECLARE_* forms up to four parameters exist.
+// What a lambda can reach has an empty body (a lambda's type has no linkage, so clang insists on one).
+
+#include "Delegates/IDelegateInstance.h"
+#include "HAL/Platform.h"
+#include "Templates/SharedPointer.h"
+
+#include <type_traits>
+
+struct FDefaultDelegateUserPolicy
+{
+};
+
+namespace OrvSurface
+{
+    template <bool bConst, typename Class, typename FuncType> struct TMemFunPtrType;
+    template <typename Class, typename Ret, typename... Args>
+    struct TMemFunPtrType<false, Class, Ret(Args...)>
+    {
+        using Type = Ret (Class::*)(Args...);
+    };
+    template <typename Class, typename Ret, typename... Args> struct TMemFunPtrType<true, Class, Ret(Args...)>
+    {
+        using Type = Ret (Class::*)(Args...) const;
+    };
+
+    /** The method pointer type a delegate of FuncType accepts for an object of UserClass. */
+    template <typename UserClass, typename FuncType>
+    using TMethodFor =
+        typename TMemFunPtrType<std::is_const_v<UserClass>, std::remove_const_t<UserClass>, FuncType>::Type;
+
+    template <typename UserClass>
+    concept CSharedFromThis = requires(UserClass* Object)
+    {
+        Object->AsShared();
+    };
+
+    // Whether DelegateType::Create<Kind>(Args...) is well-formed: what Bind<Kind> and Add<Kind> accept.
+    template <typename DelegateType, typename... ArgTypes>
+    concept CCreateLambda = requires(ArgTypes&&... Args)
+    {
+        DelegateType::CreateLambda(static_cast<ArgTypes&&>(Args)...);
+    };
+    template <typename DelegateType, typename... ArgTypes>
+    concept CCreateStatic = requires(ArgTypes&&... Args)
+    {
+        DelegateType::CreateStatic(static_cast<ArgTypes&&>(Args)...);
+    };
+    template <typename DelegateType, typename... ArgTypes>
+    concept CCreateRaw = requires(ArgTypes&&... Args)
+    {
+        DelegateType::CreateRaw(static_cast<ArgTypes&&>(Args)...);
+    };
+    template <typename DelegateType, typename... ArgTypes>
+    concept CCreateSP = requires(ArgTypes&&... Args)
+    {
+        DelegateType::CreateSP(static_cast<ArgTypes&&>(Args)...);
+    };
+    template <typename DelegateType, typename... ArgTypes>
+    concept CCreateUObject = requires(ArgTypes&&... Args)
+    {
+        DelegateType::CreateUObject(static_cast<ArgTypes&&>(Args)...);
+    };
+} // namespace OrvSurface
+
+template <typename FuncType, typename UserPolicy = FDefaultDelegateUserPolicy> class TDelegate;
+
+template <typename RetType, typename... ParamTypes, typename UserPolicy>
+class TDelegate<RetType(ParamTypes...), UserPolicy>
+{
+    template <typename... VarTypes> using TBoundType = RetType(ParamTypes..., std::decay_t<VarTypes>...);
+
+public:
+    TDelegate();
+    TDelegate(const TDelegate& Other);
+    TDelegate& operator=(const TDelegate& Other);
+    ~TDelegate();
+
+    template <typename FunctorType, typename... VarTypes>
+    requires(std::is_invocable_r_v<RetType, std::decay_t<FunctorType>&, ParamTypes..., VarTypes...>)
+        [[nodiscard]] static TDelegate CreateLambda(FunctorType&& InFunctor, VarTypes&&... Vars)
+    {
+        return TDelegate();
+    }
+
+    template <typename... VarTypes>
+    [[nodiscard]] static TDelegate CreateStatic(TBoundType<VarTypes...>* InFunc, VarTypes&&... Vars);
+
+    template <typename UserClass, typename... VarTypes>
+    [[nodiscard]] static TDelegate
+    CreateRaw(UserClass* InUserObject, OrvSurface::TMethodFor<UserClass, TBoundType<VarTypes...>> InFunc,
+              VarTypes&&... Vars);
+
+    template <typename UserClass, ESPMode Mode, typename... VarTypes>
+    [[nodiscard]] static TDelegate CreateSP(const TSharedRef<UserClass, Mode>& InUserObjectRef,
+                                            OrvSurface::TMethodFor<UserClass, TBoundType<VarTypes...>> InFunc,
+                                            VarTypes&&... Vars);
+
+    template <typename UserClass, typename... VarTypes>
+    requires(OrvSurface::CSharedFromThis<UserClass>) [[nodiscard]] static TDelegate
+        CreateSP(UserClass* InUserObject, OrvSurface::TMethodFor<UserClass, TBoundType<VarTypes...>> InFunc,
+                 VarTypes&&... Vars);
+
+    template <typename UserClass, typename... VarTypes>
+    [[nodiscard]] static TDelegate
+    CreateUObject(UserClass* InUserObject, OrvSurface::TMethodFor<UserClass, TBoundType<VarTypes...>> InFunc,
+                  VarTypes&&... Vars);
+
+    template <typename... ArgTypes>
+    requires(OrvSurface::CCreateLambda<TDelegate, ArgTypes...>) void BindLambda(ArgTypes&&... Args) {}
+    template <typename... ArgTypes>
+    requires(OrvSurface::CCreateRaw<TDelegate, ArgTypes...>) void BindRaw(ArgTypes&&... Args) {}
+    template <typename... ArgTypes>
+    requires(OrvSurface::CCreateSP<TDelegate, ArgTypes...>) void BindSP(ArgTypes&&... Args) {}
+    template <typename... ArgTypes>
+    requires(OrvSurface::CCreateUObject<TDelegate, ArgTypes...>) void BindUObject(ArgTypes&&... Args) {}
+
+    bool IsBound() const;
+    void Unbind();
+    RetType Execute(ParamTypes... Params) const;
+    bool ExecuteIfBound(ParamTypes... Params) const requires(std::is_void_v<RetType>);
+};
+
+template <typename FuncType, typename UserPolicy = FDefaultDelegateUserPolicy> class TMulticastDelegate;
+
+template <typename... ParamTypes, typename UserPolicy>
+class TMulticastDelegate<void(ParamTypes...), UserPolicy>
+{
+public:
+    using FDelegate = TDelegate<void(ParamTypes...), UserPolicy>;
+
+    FDelegateHandle Add(const FDelegate& InNewDelegate);
+    template <typename... ArgTypes>
+    requires(OrvSurface::CCreateLambda<FDelegate, ArgTypes...>) FDelegateHandle AddLambda(ArgTypes&&... Args)
+    {
+        return FDelegateHandle();
+    }
+    template <typename... ArgTypes>
+    requires(OrvSurface::CCreateStatic<FDelegate, ArgTypes...>) FDelegateHandle AddStatic(ArgTypes&&... Args)
+    {
+        return FDelegateHandle();
+    }
+    template <typename... ArgTypes>
+    requires(OrvSurface::CCreateRaw<FDelegate, ArgTypes...>) FDelegateHandle AddRaw(ArgTypes&&... Args)
+    {
+        return FDelegateHandle();
+    }
+    template <typename... ArgTypes>
+    requires(OrvSurface::CCreateSP<FDelegate, ArgTypes...>) FDelegateHandle AddSP(ArgTypes&&... Args)
+    {
+        return FDelegateHandle();
+    }
+    template <typename... ArgTypes>
+    requires(OrvSurface::CCreateUObject<FDelegate, ArgTypes...>) FDelegateHandle
+        AddUObject(ArgTypes&&... Args)
+    {
+        return FDelegateHandle();
+    }
+
+    bool Remove(FDelegateHandle Handle);
+    int32 RemoveAll(const void* InUserObject);
+    bool IsBound() const;
+    void Broadcast(ParamTypes... Params) const;
+};
+
+// Parameter types only, as in the engine's macros.
+#define DECLARE_DELEGATE(DelegateName) typedef TDelegate<void()> DelegateName;
+#define DECLARE_DELEGATE_OneParam(DelegateName, P1) typedef TDelegate<void(P1)> DelegateName;
+#define DECLARE_DELEGATE_TwoParams(DelegateName, P1, P2) typedef TDelegate<void(P1, P2)> DelegateName;
+#define DECLARE_DELEGATE_ThreeParams(DelegateName, P1, P2, P3)                                               \
+    typedef TDelegate<void(P1, P2, P3)> DelegateName;
+#define DECLARE_DELEGATE_FourParams(DelegateName, P1, P2, P3, P4)                                            \
+    typedef TDelegate<void(P1, P2, P3, P4)> DelegateName;
+#define DECLARE_DELEGATE_RetVal(R, DelegateName) typedef TDelegate<R()> DelegateName;
+#define DECLARE_DELEGATE_RetVal_OneParam(R, DelegateName, P1) typedef TDelegate<R(P1)> DelegateName;
+#define DECLARE_DELEGATE_RetVal_TwoParams(R, DelegateName, P1, P2) typedef TDelegate<R(P1, P2)> DelegateName;
+#define DECLARE_MULTICAST_DELEGATE(DelegateName) typedef TMulticastDelegate<void()> DelegateName;
+#define DECLARE_MULTICAST_DELEGATE_OneParam(DelegateName, P1)                                                \
+    typedef TMulticastDelegate<void(P1)> DelegateName;
+#define DECLARE_MULTICAST_DELEGATE_TwoParams(DelegateName, P1, P2)                                           \
+    typedef TMulticastDelegate<void(P1, P2)> DelegateName;
+#define DECLARE_MULTICAST_DELEGATE_ThreeParams(DelegateName, P1, P2, P3)                                     \
+    typedef TMulticastDelegate<void(P1, P2, P3)> DelegateName;
