@@ -8,7 +8,7 @@
 // A stand-in that checks what the engine's templates check: a lambda must be callable with the delegate's
 // parameters (then any payload) and give its result; a method bound with Raw, SP or UObject must have
 // exactly the delegate's signature (payload types appended), const when the object is const; SP binding
-// from a raw pointer needs a TSharedFromThis class. Only the DECLARE_* forms up to four parameters exist.
+// from a raw pointer needs a TSharedFromThis class. Only the DECLARE_* forms at the end of this file exist.
 // What a lambda can reach has an empty body (a lambda's type has no linkage, so clang insists on one).
 
 #include "Delegates/IDelegateInstance.h"
@@ -20,6 +20,15 @@
 struct FDefaultDelegateUserPolicy
 {
 };
+
+// Whether DelegateType::Create<Kind>(Args...) is well-formed: what Bind<Kind>, Add<Kind> and Slate's
+// Event_<Kind> setters accept. CCreateLambda, CCreateStatic, CCreateRaw, CCreateSP, CCreateUObject.
+#define ORV_SURFACE_CREATE_CONCEPT(Kind)                                                                     \
+    template <typename DelegateType, typename... ArgTypes>                                                   \
+    concept CCreate##Kind = requires(ArgTypes && ... Args)                                                   \
+    {                                                                                                        \
+        DelegateType::Create##Kind(static_cast<ArgTypes&&>(Args)...);                                        \
+    };
 
 namespace OrvSurface
 {
@@ -45,32 +54,12 @@ namespace OrvSurface
         Object->AsShared();
     };
 
-    // Whether DelegateType::Create<Kind>(Args...) is well-formed: what Bind<Kind> and Add<Kind> accept.
-    template <typename DelegateType, typename... ArgTypes>
-    concept CCreateLambda = requires(ArgTypes&&... Args)
-    {
-        DelegateType::CreateLambda(static_cast<ArgTypes&&>(Args)...);
-    };
-    template <typename DelegateType, typename... ArgTypes>
-    concept CCreateStatic = requires(ArgTypes&&... Args)
-    {
-        DelegateType::CreateStatic(static_cast<ArgTypes&&>(Args)...);
-    };
-    template <typename DelegateType, typename... ArgTypes>
-    concept CCreateRaw = requires(ArgTypes&&... Args)
-    {
-        DelegateType::CreateRaw(static_cast<ArgTypes&&>(Args)...);
-    };
-    template <typename DelegateType, typename... ArgTypes>
-    concept CCreateSP = requires(ArgTypes&&... Args)
-    {
-        DelegateType::CreateSP(static_cast<ArgTypes&&>(Args)...);
-    };
-    template <typename DelegateType, typename... ArgTypes>
-    concept CCreateUObject = requires(ArgTypes&&... Args)
-    {
-        DelegateType::CreateUObject(static_cast<ArgTypes&&>(Args)...);
-    };
+    ORV_SURFACE_CREATE_CONCEPT(Lambda)
+    ORV_SURFACE_CREATE_CONCEPT(Static)
+    ORV_SURFACE_CREATE_CONCEPT(Raw)
+    ORV_SURFACE_CREATE_CONCEPT(SP)
+    ORV_SURFACE_CREATE_CONCEPT(UObject)
+#undef ORV_SURFACE_CREATE_CONCEPT
 } // namespace OrvSurface
 
 template <typename FuncType, typename UserPolicy = FDefaultDelegateUserPolicy> class TDelegate;
@@ -116,14 +105,15 @@ public:
     CreateUObject(UserClass* InUserObject, OrvSurface::TMethodFor<UserClass, TBoundType<VarTypes...>> InFunc,
                   VarTypes&&... Vars);
 
-    template <typename... ArgTypes>
-    requires(OrvSurface::CCreateLambda<TDelegate, ArgTypes...>) void BindLambda(ArgTypes&&... Args) {}
-    template <typename... ArgTypes>
-    requires(OrvSurface::CCreateRaw<TDelegate, ArgTypes...>) void BindRaw(ArgTypes&&... Args) {}
-    template <typename... ArgTypes>
-    requires(OrvSurface::CCreateSP<TDelegate, ArgTypes...>) void BindSP(ArgTypes&&... Args) {}
-    template <typename... ArgTypes>
-    requires(OrvSurface::CCreateUObject<TDelegate, ArgTypes...>) void BindUObject(ArgTypes&&... Args) {}
+    // BindLambda, BindRaw, BindSP, BindUObject: what the matching Create accepts.
+#define ORV_SURFACE_BIND(Kind)                                                                               \
+    template <typename... ArgTypes>                                                                          \
+    requires(OrvSurface::CCreate##Kind<TDelegate, ArgTypes...>) void Bind##Kind(ArgTypes&&... Args) {}
+    ORV_SURFACE_BIND(Lambda)
+    ORV_SURFACE_BIND(Raw)
+    ORV_SURFACE_BIND(SP)
+    ORV_SURFACE_BIND(UObject)
+#undef ORV_SURFACE_BIND
 
     bool IsBound() const;
     void Unbind();
@@ -140,32 +130,20 @@ public:
     using FDelegate = TDelegate<void(ParamTypes...), UserPolicy>;
 
     FDelegateHandle Add(const FDelegate& InNewDelegate);
-    template <typename... ArgTypes>
-    requires(OrvSurface::CCreateLambda<FDelegate, ArgTypes...>) FDelegateHandle AddLambda(ArgTypes&&... Args)
-    {
-        return FDelegateHandle();
+    // AddLambda, AddStatic, AddRaw, AddSP, AddUObject: what the matching FDelegate::Create accepts.
+#define ORV_SURFACE_ADD(Kind)                                                                                \
+    template <typename... ArgTypes>                                                                          \
+    requires(OrvSurface::CCreate##Kind<FDelegate, ArgTypes...>)                                              \
+        FDelegateHandle Add##Kind(ArgTypes&&... Args)                                                        \
+    {                                                                                                        \
+        return FDelegateHandle();                                                                            \
     }
-    template <typename... ArgTypes>
-    requires(OrvSurface::CCreateStatic<FDelegate, ArgTypes...>) FDelegateHandle AddStatic(ArgTypes&&... Args)
-    {
-        return FDelegateHandle();
-    }
-    template <typename... ArgTypes>
-    requires(OrvSurface::CCreateRaw<FDelegate, ArgTypes...>) FDelegateHandle AddRaw(ArgTypes&&... Args)
-    {
-        return FDelegateHandle();
-    }
-    template <typename... ArgTypes>
-    requires(OrvSurface::CCreateSP<FDelegate, ArgTypes...>) FDelegateHandle AddSP(ArgTypes&&... Args)
-    {
-        return FDelegateHandle();
-    }
-    template <typename... ArgTypes>
-    requires(OrvSurface::CCreateUObject<FDelegate, ArgTypes...>) FDelegateHandle
-        AddUObject(ArgTypes&&... Args)
-    {
-        return FDelegateHandle();
-    }
+    ORV_SURFACE_ADD(Lambda)
+    ORV_SURFACE_ADD(Static)
+    ORV_SURFACE_ADD(Raw)
+    ORV_SURFACE_ADD(SP)
+    ORV_SURFACE_ADD(UObject)
+#undef ORV_SURFACE_ADD
 
     bool Remove(FDelegateHandle Handle);
     int32 RemoveAll(const void* InUserObject);

@@ -53,39 +53,23 @@ public:                                                                         
         return *this;                                                                                        \
     }
 
-#define SLATE_EVENT(DelegateName, EventName)                                                                 \
-    DelegateName _##EventName;                                                                               \
-    WidgetArgsType& EventName(const DelegateName& InDelegate);                                               \
+/** One EventName_<Kind> setter: takes what DelegateName::Create<Kind> takes. */
+#define ORV_SURFACE_EVENT_SETTER(DelegateName, EventName, Kind)                                              \
     template <typename... ArgTypes>                                                                          \
-    requires(::OrvSurface::CCreateLambda<DelegateName, ArgTypes...>)                                         \
-        WidgetArgsType& EventName##_Lambda(ArgTypes&&... Args)                                               \
-    {                                                                                                        \
-        return *this;                                                                                        \
-    }                                                                                                        \
-    template <typename... ArgTypes>                                                                          \
-    requires(::OrvSurface::CCreateRaw<DelegateName, ArgTypes...>)                                            \
-        WidgetArgsType& EventName##_Raw(ArgTypes&&... Args)                                                  \
-    {                                                                                                        \
-        return *this;                                                                                        \
-    }                                                                                                        \
-    template <typename... ArgTypes>                                                                          \
-    requires(::OrvSurface::CCreateSP<DelegateName, ArgTypes...>)                                             \
-        WidgetArgsType& EventName##_SP(ArgTypes&&... Args)                                                   \
-    {                                                                                                        \
-        return *this;                                                                                        \
-    }                                                                                                        \
-    template <typename... ArgTypes>                                                                          \
-    requires(::OrvSurface::CCreateUObject<DelegateName, ArgTypes...>)                                        \
-        WidgetArgsType& EventName##_UObject(ArgTypes&&... Args)                                              \
-    {                                                                                                        \
-        return *this;                                                                                        \
-    }                                                                                                        \
-    template <typename... ArgTypes>                                                                          \
-    requires(::OrvSurface::CCreateStatic<DelegateName, ArgTypes...>)                                         \
-        WidgetArgsType& EventName##_Static(ArgTypes&&... Args)                                               \
+    requires(::OrvSurface::CCreate##Kind<DelegateName, ArgTypes...>)                                         \
+        WidgetArgsType& EventName##_##Kind(ArgTypes&&... Args)                                               \
     {                                                                                                        \
         return *this;                                                                                        \
     }
+
+#define SLATE_EVENT(DelegateName, EventName)                                                                 \
+    DelegateName _##EventName;                                                                               \
+    WidgetArgsType& EventName(const DelegateName& InDelegate);                                               \
+    ORV_SURFACE_EVENT_SETTER(DelegateName, EventName, Lambda)                                                \
+    ORV_SURFACE_EVENT_SETTER(DelegateName, EventName, Raw)                                                   \
+    ORV_SURFACE_EVENT_SETTER(DelegateName, EventName, SP)                                                    \
+    ORV_SURFACE_EVENT_SETTER(DelegateName, EventName, UObject)                                               \
+    ORV_SURFACE_EVENT_SETTER(DelegateName, EventName, Static)
 
 /** The unnamed content slot: Args[ SNew(...) ]. */
 #define SLATE_DEFAULT_SLOT(DeclarationType, SlotName)                                                        \
