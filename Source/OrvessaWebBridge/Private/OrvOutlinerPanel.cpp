@@ -11,6 +11,7 @@
 #include "Widgets/Layout/SBorder.h"
 #include "Widgets/Layout/SWidgetSwitcher.h"
 #include "Widgets/SBoxPanel.h"
+#include "Widgets/SNullWidget.h"
 #include "Widgets/SOverlay.h"
 #include "Widgets/Text/STextBlock.h"
 #include "Widgets/Views/STableRow.h"
@@ -78,7 +79,7 @@ void SOrvOutlinerPanel::Construct(const FArguments& InArgs)
             SNew(SHorizontalBox)
             + SHorizontalBox::Slot().FillWidth(1.0f).VAlign(VAlign_Center)
             [
-                SNew(STextBlock).Text(this, &SOrvOutlinerPanel::GetStatusText)
+                SNew(STextBlock).Text_Lambda([this]() { return GetStatusText(); })
             ]
             + SHorizontalBox::Slot().AutoWidth()
             [
@@ -234,7 +235,7 @@ TSharedRef<ITableRow> SOrvOutlinerPanel::OnGenerateRow(FRowPtr Row,
     return SNew(STableRow<FRowPtr>, OwnerTable)[Content];
 }
 
-void SOrvOutlinerPanel::OnGetChildren(FRowPtr Row, TArray<FRowPtr>& OutChildren) const
+void SOrvOutlinerPanel::OnGetChildren(FRowPtr Row, TArray<FRowPtr>& OutChildren)
 {
     OutChildren = Row->Children;
 }

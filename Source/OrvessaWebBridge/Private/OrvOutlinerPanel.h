@@ -41,7 +41,7 @@ private:
     void RebuildTree();
     FRowPtr WrapItem(const OrvWebBridge::FOrvOutlinerTreeItemPtr& Item);
     TSharedRef<ITableRow> OnGenerateRow(FRowPtr Row, const TSharedRef<STableViewBase>& OwnerTable);
-    void OnGetChildren(FRowPtr Row, TArray<FRowPtr>& OutChildren) const;
+    void OnGetChildren(FRowPtr Row, TArray<FRowPtr>& OutChildren);
     void OnExpansionChanged(FRowPtr Row, bool bIsExpanded);
 
     // Each row keeps its item alive for the row's buttons, whatever the next rescan does.

@@ -1,6 +1,7 @@
 #include "OrvessaWebBridge.h"
 
 #include "OrvComposition.h"
+#include "OrvOutlinerPanel.h"
 #include "OrvessaWebBridgeStyle.h"
 
 #include "Framework/Docking/TabManager.h"

@@ -1,5 +1,7 @@
 #include "OrvessaWebBridgeStyle.h"
 
+#include "Brushes/SlateImageBrush.h"
+#include "Brushes/SlateVectorImageBrush.h"
 #include "Framework/Application/SlateApplication.h"
 #include "Interfaces/IPluginManager.h"
 #include "Styling/CoreStyle.h"

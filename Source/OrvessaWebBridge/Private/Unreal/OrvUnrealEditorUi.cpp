@@ -5,7 +5,6 @@
 #include "Unreal/OrvUnrealConversions.h"
 #include "Unreal/OrvUnrealHandles.h"
 
-#include "AssetRegistry/AssetData.h"
 #include "ContentBrowserModule.h"
 #include "Engine/StaticMesh.h"
 #include "IContentBrowserSingleton.h"
@@ -28,9 +27,11 @@ namespace OrvWebBridge
         {
             return;
         }
+        TArray<UObject*> Assets;
+        Assets.Add(Resolved);
         FContentBrowserModule& ContentBrowser =
             FModuleManager::LoadModuleChecked<FContentBrowserModule>("ContentBrowser");
-        ContentBrowser.Get().SyncBrowserToAssets(TArray<FAssetData>{FAssetData(Resolved)});
+        ContentBrowser.Get().SyncBrowserToAssets(Assets);
     }
 
     bool FOrvUnrealEditorUi::IsUserLoggedIn() const

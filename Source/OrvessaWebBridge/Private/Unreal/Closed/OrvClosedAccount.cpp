@@ -3,13 +3,14 @@
 #if ORV_WITH_CLOSED_MODULES
 
 #include "Engine/Engine.h"
-// The core module's account subsystem. Assumed: an engine subsystem answering GetLoginState().
+// ASSUMED (1): the core module's header for its account subsystem is called so.
 #include "OrvSubsystem.h"
 
 namespace OrvWebBridge
 {
     bool OrvClosedIsUserLoggedIn()
     {
+        // ASSUMED (2): an engine subsystem. ASSUMED (3): GetLoginState() is const and answers a bool.
         const UOrvSubsystem* Subsystem = GEngine ? GEngine->GetEngineSubsystem<UOrvSubsystem>() : nullptr;
         return Subsystem && Subsystem->GetLoginState();
     }

@@ -11,8 +11,7 @@
 #include "Core/Json/OrvJson.h"
 #include "Unreal/OrvUnrealConversions.h"
 
-// The core module's API client. Assumed: GetInstance(), Post(path, body object, completion taking a success
-// flag and the answer object), GetCookies() and SetCookie() over its own cookie record.
+// ASSUMED (1): the core module's header for its API client is called so.
 #include "ApiWrapper.h"
 
 namespace OrvWebBridge
@@ -50,6 +49,7 @@ namespace OrvWebBridge
             GameThread.Post([OnComplete = MoveTemp(OnComplete)]() { OnComplete(false, nullptr); });
             return;
         }
+        // ASSUMED (2): the completion is an FOnApiResponse (success flag, answer object).
         Api->Post(FOrvUnrealConversions::ToFString(Path), Body,
                   FOnApiResponse::CreateLambda(
                       [OnComplete = MoveTemp(OnComplete)](bool bSuccess, TSharedPtr<FJsonObject> Answer)
@@ -61,6 +61,7 @@ namespace OrvWebBridge
         std::vector<FOrvCookie> Cookies;
         if (const UApiWrapper* Api = UApiWrapper::GetInstance())
         {
+            // ASSUMED (3): the jar's records are FOrvCookie with Name, Value, Domain and Path.
             for (const ::FOrvCookie& Cookie : Api->GetCookies())
             {
                 Cookies.push_back({FOrvUnrealConversions::ToUtf8(Cookie.Name),
@@ -76,6 +77,7 @@ namespace OrvWebBridge
     {
         if (UApiWrapper* Api = UApiWrapper::GetInstance())
         {
+            // ASSUMED (4): SetCookie takes the cookie's name and value (the jar keeps its own domain).
             Api->SetCookie(FOrvUnrealConversions::ToFString(Cookie.Name),
                            FOrvUnrealConversions::ToFString(Cookie.Value));
         }
