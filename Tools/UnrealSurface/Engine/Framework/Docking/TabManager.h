@@ -2,8 +2,11 @@
 
 // Engine: Runtime/Slate/Public/Framework/Docking/TabManager.h (module Slate). Nomad tab spawners are
 // registered with the global tab manager by tab id; saved layouts reopen tabs by that id.
-// Docs (by URL scheme):
+// Docs:
 //   https://dev.epicgames.com/documentation/en-us/unreal-engine/API/Runtime/Slate/FGlobalTabmanager
+//   https://dev.epicgames.com/documentation/unreal-engine/API/Runtime/Slate/Framework/Docking/FGlobalTabmanager/Get?application_version=5.4
+//   https://dev.epicgames.com/documentation/unreal-engine/API/Runtime/Slate/Framework/Docking/FGlobalTabmanager/GetRootWindow?application_version=5.4
+// Docs (by URL scheme):
 //   https://dev.epicgames.com/documentation/en-us/unreal-engine/API/Runtime/Slate/FTabSpawnerEntry
 //   https://dev.epicgames.com/documentation/en-us/unreal-engine/API/Runtime/Slate/FTabManager/TryInvokeTab
 
