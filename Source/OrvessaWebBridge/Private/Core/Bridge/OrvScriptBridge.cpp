@@ -8,7 +8,7 @@ namespace OrvWebBridge
 {
     namespace
     {
-        constexpr EOrvLogCategory Temp = EOrvLogCategory::LogTemp;
+        constexpr EOrvLogCategory BridgeLog = EOrvLogCategory::LogTemp;
     } // namespace
 
     IOrvCatalogAccount* FOrvScriptBridge::FindAccount()
@@ -16,7 +16,7 @@ namespace OrvWebBridge
         IOrvCatalogAccount* Account = Ports.FindAccount();
         if (!Account)
         {
-            OrvLogf(Ports.Log, Temp, EOrvLogVerbosity::Warning,
+            OrvLogf(Ports.Log, BridgeLog, EOrvLogVerbosity::Warning,
                     "Orv Bridge - Error Getting OrvCore - OrvSubsystem was not valid.");
         }
         return Account;
@@ -82,7 +82,8 @@ namespace OrvWebBridge
     {
         if (URL.empty())
         {
-            OrvLogf(Ports.Log, Temp, EOrvLogVerbosity::Error, "Orv Bridge - OpenExternalURL: URL is empty!");
+            OrvLogf(Ports.Log, BridgeLog, EOrvLogVerbosity::Error,
+                    "Orv Bridge - OpenExternalURL: URL is empty!");
             return;
         }
         Ports.Windows.LaunchUrl(URL);
@@ -92,13 +93,13 @@ namespace OrvWebBridge
     {
         if (URL.empty())
         {
-            OrvLogf(Ports.Log, Temp, EOrvLogVerbosity::Error, "[OAuth] URL is empty!");
+            OrvLogf(Ports.Log, BridgeLog, EOrvLogVerbosity::Error, "[OAuth] URL is empty!");
             return;
         }
         FOrvWebPanelSession* Module = Ports.FindModule();
         if (!Module)
         {
-            OrvLogf(Ports.Log, Temp, EOrvLogVerbosity::Error,
+            OrvLogf(Ports.Log, BridgeLog, EOrvLogVerbosity::Error,
                     "[OAuth] Module not available, falling back to external browser");
             Ports.Windows.LaunchUrl(URL);
             return;
@@ -111,7 +112,8 @@ namespace OrvWebBridge
         FOrvWebPanelSession* Module = Ports.FindModule();
         if (!Module)
         {
-            OrvLogf(Ports.Log, Temp, EOrvLogVerbosity::Error, "[Auth] RefreshPanel - Module not available");
+            OrvLogf(Ports.Log, BridgeLog, EOrvLogVerbosity::Error,
+                    "[Auth] RefreshPanel - Module not available");
             return;
         }
         Module->ReloadPanel();
@@ -130,7 +132,7 @@ namespace OrvWebBridge
         FOrvWebPanelSession* Module = Ports.FindModule();
         if (!Module)
         {
-            OrvLogf(Ports.Log, Temp, EOrvLogVerbosity::Error,
+            OrvLogf(Ports.Log, BridgeLog, EOrvLogVerbosity::Error,
                     "[Auth] SetSessionToken - Module not available");
             return;
         }
@@ -157,7 +159,7 @@ namespace OrvWebBridge
 
     void FOrvScriptBridge::TestOrvEventBus()
     {
-        OrvLogf(Ports.Log, Temp, EOrvLogVerbosity::Warning, "Orv Bridge - TestOrvEventBus CALLED");
+        OrvLogf(Ports.Log, BridgeLog, EOrvLogVerbosity::Warning, "Orv Bridge - TestOrvEventBus CALLED");
         if (FOrvWebPanelSession* Module = Ports.FindModule())
         {
             Module->EmitEvent("orvbus.test", R"({"status":"okay"})");
@@ -169,7 +171,7 @@ namespace OrvWebBridge
         IOrvCatalogAccount* Account = Ports.FindAccount();
         if (!Account)
         {
-            OrvLogf(Ports.Log, Temp, EOrvLogVerbosity::Error,
+            OrvLogf(Ports.Log, BridgeLog, EOrvLogVerbosity::Error,
                     "Orv Bridge - TriggerAuthCheck failed - OrvSubsystem was not valid.");
             return;
         }

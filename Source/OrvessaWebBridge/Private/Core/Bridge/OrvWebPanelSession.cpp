@@ -7,7 +7,7 @@ namespace OrvWebBridge
 {
     namespace
     {
-        constexpr EOrvLogCategory Temp = EOrvLogCategory::LogTemp;
+        constexpr EOrvLogCategory SessionLog = EOrvLogCategory::LogTemp;
         constexpr const char* SessionCookieName = "orvsession";
         constexpr const char* ReloadScript = "window.location.reload();";
         constexpr const char* DelayedReloadScript =
@@ -80,7 +80,7 @@ namespace OrvWebBridge
         }
         if (Missing)
         {
-            OrvLogf(Ports.Log, Temp, EOrvLogVerbosity::Warning, "[Cookie] %s - %s", Caller, Missing);
+            OrvLogf(Ports.Log, SessionLog, EOrvLogVerbosity::Warning, "[Cookie] %s - %s", Caller, Missing);
             return nullptr;
         }
         return Found.Cookies;
@@ -117,18 +117,18 @@ namespace OrvWebBridge
         IOrvCatalogApi* Api = Ports.FindApi();
         if (!Api)
         {
-            OrvLogf(Ports.Log, Temp, EOrvLogVerbosity::Warning,
+            OrvLogf(Ports.Log, SessionLog, EOrvLogVerbosity::Warning,
                     "[Cookie] InjectCookiesIntoCEF - ApiWrapper not available");
             return Finish();
         }
         const std::vector<FOrvCookie> Cookies = Api->GetCookies();
         if (Cookies.empty())
         {
-            OrvLogf(Ports.Log, Temp, EOrvLogVerbosity::Warning,
+            OrvLogf(Ports.Log, SessionLog, EOrvLogVerbosity::Warning,
                     "[Cookie] InjectCookiesIntoCEF - CookieJar is EMPTY!");
             return Finish();
         }
-        OrvLogf(Ports.Log, Temp, EOrvLogVerbosity::Log, "[Cookie] Injecting %d cookies into CEF",
+        OrvLogf(Ports.Log, SessionLog, EOrvLogVerbosity::Log, "[Cookie] Injecting %d cookies into CEF",
                 static_cast<int>(Cookies.size()));
         auto Pending = std::make_shared<FOrvPendingCookies>();
         Pending->Remaining = static_cast<int>(Cookies.size());
@@ -141,7 +141,7 @@ namespace OrvWebBridge
                                  const auto Alive = Weak.lock();
                                  if (Alive && !bSet)
                                  {
-                                     OrvLogf((*Alive)->Ports.Log, Temp, EOrvLogVerbosity::Warning,
+                                     OrvLogf((*Alive)->Ports.Log, SessionLog, EOrvLogVerbosity::Warning,
                                              "[Cookie] CEF refused cookie %s", Name.c_str());
                                  }
                                  if (Alive)
@@ -169,18 +169,19 @@ namespace OrvWebBridge
     {
         if (Token.empty())
         {
-            OrvLogf(Ports.Log, Temp, EOrvLogVerbosity::Warning, "[Auth] StoreSessionToken - Token is empty!");
+            OrvLogf(Ports.Log, SessionLog, EOrvLogVerbosity::Warning,
+                    "[Auth] StoreSessionToken - Token is empty!");
             return false;
         }
         IOrvCatalogApi* Api = Ports.FindApi();
         if (!Api)
         {
-            OrvLogf(Ports.Log, Temp, EOrvLogVerbosity::Error,
+            OrvLogf(Ports.Log, SessionLog, EOrvLogVerbosity::Error,
                     "[Auth] StoreSessionToken - ApiWrapper not available!");
             return false;
         }
         Api->SetCookie(FOrvCookie{SessionCookieName, std::string(Token), Site.CookieDomain, "/"});
-        OrvLogf(Ports.Log, Temp, EOrvLogVerbosity::Log,
+        OrvLogf(Ports.Log, SessionLog, EOrvLogVerbosity::Log,
                 "[Auth] StoreSessionToken - Token stored, CookieJar now has %d cookies",
                 static_cast<int>(Api->GetCookies().size()));
         return true;
@@ -198,7 +199,7 @@ namespace OrvWebBridge
             {
                 if (const auto Alive = Weak.lock())
                 {
-                    OrvLogf((*Alive)->Ports.Log, Temp, EOrvLogVerbosity::Log,
+                    OrvLogf((*Alive)->Ports.Log, SessionLog, EOrvLogVerbosity::Log,
                             "[Cookie] Deleted %d cookies from CEF", Deleted);
                 }
             });
@@ -224,13 +225,13 @@ namespace OrvWebBridge
     {
         // One sign-in at a time: a second request replaces the first popup.
         Ports.Windows.ClosePopup(Popup);
-        OrvLogf(Ports.Log, Temp, EOrvLogVerbosity::Log, "[OAuth] Opening popup: %.*s",
+        OrvLogf(Ports.Log, SessionLog, EOrvLogVerbosity::Log, "[OAuth] Opening popup: %.*s",
                 static_cast<int>(Url.size()), Url.data());
         Popup = Ports.Windows.OpenPopup("ORVESSA Login", Url,
                                         [this](const std::string& Shown) { OnPopupUrl(Shown); });
         if (!Popup.IsValid())
         {
-            OrvLogf(Ports.Log, Temp, EOrvLogVerbosity::Error,
+            OrvLogf(Ports.Log, SessionLog, EOrvLogVerbosity::Error,
                     "[OAuth] Popup could not be opened, falling back to external browser");
             Ports.Windows.LaunchUrl(Url);
         }
@@ -242,12 +243,12 @@ namespace OrvWebBridge
         {
             return;
         }
-        OrvLogf(Ports.Log, Temp, EOrvLogVerbosity::Log, "[OAuth] Sign-in completed at %s", Url.c_str());
+        OrvLogf(Ports.Log, SessionLog, EOrvLogVerbosity::Log, "[OAuth] Sign-in completed at %s", Url.c_str());
         Ports.Windows.ClosePopup(Popup);
         Popup = {};
         if (!Ports.Panel.GetPanel().IsOpen())
         {
-            OrvLogf(Ports.Log, Temp, EOrvLogVerbosity::Warning,
+            OrvLogf(Ports.Log, SessionLog, EOrvLogVerbosity::Warning,
                     "ORVESSA: OAuth completed but main panel not available");
             return;
         }
