@@ -78,14 +78,10 @@ namespace OrvWebBridge
             // The first scan starts only once serving is sure, so a busy port ends the run quietly.
             Outliner->Start(Console);
         }
-        if (PanelOptions)
-        {
-            Print("Orv Catalog: " + Panel.GetUrl() + " (sign in as demo, password demo)\n");
-        }
-        if (bMcp)
-        {
-            Print("Serving MCP on " + Endpoint.GetMcpUrl() + "\n");
-        }
+        // One write, so that whoever reads the panel's line has the endpoint's line too.
+        const std::string PanelLine =
+            PanelOptions ? "Orv Catalog: " + Panel.GetUrl() + " (sign in as demo, password demo)\n" : "";
+        Print(PanelLine + (bMcp ? "Serving MCP on " + Endpoint.GetMcpUrl() + "\n" : ""));
         return true;
     }
 
