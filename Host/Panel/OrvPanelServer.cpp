@@ -18,16 +18,6 @@ namespace OrvWebBridge
 #include "Host/Panel/OrvBridgeScript.inc"
             ;
 
-        std::unique_ptr<FOrvHttpResponse> Reply(int Code, std::string_view ContentType, std::string Body)
-        {
-            auto Response = std::make_unique<FOrvHttpResponse>();
-            Response->Code = Code;
-            Response->ContentType = std::string(ContentType);
-            Response->Body = std::move(Body);
-            Response->Headers.emplace_back("Cache-Control", "no-store");
-            return Response;
-        }
-
         /** The bridge script with the page's function names written in. */
         std::string MakeBridgeScript()
         {
@@ -105,8 +95,8 @@ namespace OrvWebBridge
 
     std::unique_ptr<FOrvHttpResponse> FOrvPanelServer::Forbidden()
     {
-        return Reply(403, "text/plain; charset=utf-8",
-                     "Forbidden: only the catalogue panel's own pages may do this.\n");
+        return FOrvPanelSite::Respond(403, "text/plain; charset=utf-8",
+                                      "Forbidden: only the catalogue panel's own pages may do this.\n");
     }
 
     void FOrvPanelServer::BindRoutes()
@@ -127,21 +117,23 @@ namespace OrvWebBridge
 
         Bind(FOrvPanelSite::BridgeScriptPath, EOrvHttpVerb::Get, EOrvPanelAccess::AnyPage,
              [this](const FOrvHttpRequest&)
-             { return Reply(200, "text/javascript; charset=utf-8", BridgeScript); });
+             { return FOrvPanelSite::Respond(200, "text/javascript; charset=utf-8", BridgeScript); });
         Bind("/__orv/health", EOrvHttpVerb::Get, EOrvPanelAccess::AnyPage,
-             [](const FOrvHttpRequest&) { return Reply(200, "text/plain; charset=utf-8", "ok\n"); });
+             [](const FOrvHttpRequest&)
+             { return FOrvPanelSite::Respond(200, "text/plain; charset=utf-8", "ok\n"); });
         Bind("/__orv/catalog.json", EOrvHttpVerb::Get, EOrvPanelAccess::AnyPage,
-             [this](const FOrvHttpRequest&) { return Reply(200, "application/json", Parts.CatalogJson); });
+             [this](const FOrvHttpRequest&)
+             { return FOrvPanelSite::Respond(200, "application/json", Parts.CatalogJson); });
         Bind("/__orv/call", EOrvHttpVerb::Post, EOrvPanelAccess::PanelCall,
              [this](const FOrvHttpRequest& Request)
              {
                  FOrvBridgeCallAnswer Answer = Parts.Calls.Call(Request.Body);
-                 return Reply(Answer.Status, "application/json", std::move(Answer.Json));
+                 return FOrvPanelSite::Respond(Answer.Status, "application/json", std::move(Answer.Json));
              });
         Bind("/__orv/cookies", EOrvHttpVerb::Post, EOrvPanelAccess::PanelCall,
              [this](const FOrvHttpRequest& Request)
              {
-                 auto Response = Reply(204, "text/plain", "");
+                 auto Response = FOrvPanelSite::Respond(204, "text/plain", "");
                  for (std::string& Header : Parts.Cookies.TakeSetCookieHeaders(Request.FindHeader("Cookie")))
                  {
                      Response->Headers.emplace_back("Set-Cookie", std::move(Header));
@@ -158,11 +150,11 @@ namespace OrvWebBridge
                      !FOrvJson::TryGetStringField(Report, "url", Url) ||
                      !(Id = FOrvJson::FindField(Report, "id")) || !Id->IsUint64())
                  {
-                     return Reply(400, "text/plain; charset=utf-8",
-                                  "Expected {\"id\": popup number, \"url\": text}.\n");
+                     return FOrvPanelSite::Respond(400, "text/plain; charset=utf-8",
+                                                   "Expected {\"id\": popup number, \"url\": text}.\n");
                  }
                  Parts.Windows.OnPopupUrl(Id->GetUint64(), Url);
-                 return Reply(204, "text/plain", "");
+                 return FOrvPanelSite::Respond(204, "text/plain", "");
              });
         Router->BindEventStream(
             "/__orv/events",
@@ -186,7 +178,7 @@ namespace OrvWebBridge
                 }
                 else if (bPost)
                 {
-                    OnComplete(Reply(404, "text/plain; charset=utf-8", "Not found.\n"));
+                    OnComplete(FOrvPanelSite::Respond(404, "text/plain; charset=utf-8", "Not found.\n"));
                 }
                 else
                 {

@@ -60,22 +60,22 @@ namespace OrvWebBridge
             return true;
         }
 
-        std::unique_ptr<FOrvHttpResponse> Respond(int Code, std::string_view ContentType, std::string Body)
-        {
-            auto Response = std::make_unique<FOrvHttpResponse>();
-            Response->Code = Code;
-            Response->ContentType = std::string(ContentType);
-            Response->Body = std::move(Body);
-            // A development server: an edited file shows on the next reload.
-            Response->Headers.emplace_back("Cache-Control", "no-store");
-            return Response;
-        }
-
         std::string_view AfterPrefix(std::string_view Path, std::string_view Prefix)
         {
             return Path.size() > Prefix.size() && Path.starts_with(Prefix) ? Path.substr(Prefix.size()) : "";
         }
     } // namespace
+
+    std::unique_ptr<FOrvHttpResponse> FOrvPanelSite::Respond(int Code, std::string_view ContentType,
+                                                             std::string Body)
+    {
+        auto Response = std::make_unique<FOrvHttpResponse>();
+        Response->Code = Code;
+        Response->ContentType = std::string(ContentType);
+        Response->Body = std::move(Body);
+        Response->Headers.emplace_back("Cache-Control", "no-store");
+        return Response;
+    }
 
     bool FOrvPanelSite::Check(std::string& Error) const
     {
@@ -133,11 +133,11 @@ namespace OrvWebBridge
         {
             if (const std::string_view Id = AfterPrefix(Decoded, "/go/product/"); !Id.empty())
             {
-                return DemoCatalog->FindProduct(Id) ? "product.html" : "";
+                return DemoCatalog->FindProduct(Id) ? "detail.html" : "";
             }
             if (const std::string_view Id = AfterPrefix(Decoded, "/go/finish/"); !Id.empty())
             {
-                return DemoCatalog->HasFinish(Id) ? "finish.html" : "";
+                return DemoCatalog->HasFinish(Id) ? "detail.html" : "";
             }
             if (Decoded == "/oauth/sign-in")
             {

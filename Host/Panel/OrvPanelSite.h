@@ -30,6 +30,10 @@ namespace OrvWebBridge
         /** The answer to a GET of Path (as requested, percent-encoded). */
         std::unique_ptr<FOrvHttpResponse> Get(std::string_view Path) const;
 
+        /** An answer of the panel's origin; never cached, so an edited file shows on the next reload. */
+        static std::unique_ptr<FOrvHttpResponse> Respond(int Code, std::string_view ContentType,
+                                                         std::string Body);
+
         /** Html with the bridge script's tag at the start of its head. */
         static std::string InjectBridge(std::string_view Html);
 

@@ -18,17 +18,25 @@ after(async () => {
     await Chromium?.Close();
 });
 
-describe("the bridge in a page of the panel", () => {
-    let Host;
-    let Page;
+/** A host of its own for a group of tests, with a page of its panel (connected, when bConnected). */
+function UseHost({ bConnected = true } = {}) {
+    const Context = {};
     before(async () => {
-        Host = await StartHost();
-        Page = await OpenPanel(Chromium.Browser, Host.PanelUrl);
+        Context.Host = await StartHost();
+        Context.Page = bConnected ? await OpenPanel(Chromium.Browser, Context.Host.PanelUrl) : await Chromium.Browser.newPage();
     });
     after(async () => {
-        await Page?.close();
-        await Host?.Stop();
+        await Context.Page?.close();
+        await Context.Host?.Stop();
     });
+    return Context;
+}
+
+describe("the bridge in a page of the panel", () => {
+    const Context = UseHost();
+    let Host;
+    let Page;
+    before(() => ({ Host, Page } = Context));
 
     it("has the fifteen functions with lower-case names, each returning a Promise", async () => {
         const Shape = await Page.evaluate(() =>
@@ -113,16 +121,10 @@ describe("the bridge in a page of the panel", () => {
 });
 
 describe("the sign-in session", () => {
+    const Context = UseHost();
     let Host;
     let Page;
-    before(async () => {
-        Host = await StartHost();
-        Page = await OpenPanel(Chromium.Browser, Host.PanelUrl);
-    });
-    after(async () => {
-        await Page?.close();
-        await Host?.Stop();
-    });
+    before(() => ({ Host, Page } = Context));
 
     it("setsessiontoken stores the orvsession cookie, signs in and reloads the page", async () => {
         await Promise.all([Page.waitForNavigation(), Bridge(Page, "setsessiontoken", "tok-123")]);
@@ -171,16 +173,12 @@ describe("the sign-in session", () => {
 });
 
 describe("the demo site, as a user drives it", () => {
+    const Context = UseHost({ bConnected: false });
     let Host;
     let Page;
     before(async () => {
-        Host = await StartHost();
-        Page = await Chromium.Browser.newPage();
+        ({ Host, Page } = Context);
         await Page.goto(Host.PanelUrl);
-    });
-    after(async () => {
-        await Page?.close();
-        await Host?.Stop();
     });
 
     it("signs in, lists the library, downloads with live progress and receives the test event", async () => {
@@ -221,17 +219,11 @@ describe("the demo site, as a user drives it", () => {
 });
 
 describe("who may talk to the panel", () => {
-    let Host;
-    before(async () => {
-        Host = await StartHost();
-    });
-    after(async () => {
-        await Host?.Stop();
-    });
+    const Context = UseHost({ bConnected: false });
 
     const Request = (Method, Path, Headers, Body = "") =>
         new Promise((Resolve, Reject) => {
-            const Url = new URL(Path, Host.PanelUrl);
+            const Url = new URL(Path, Context.Host.PanelUrl);
             const Call = http.request({ host: "127.0.0.1", port: Url.port, path: Url.pathname, method: Method, headers: Headers }, (Answer) => {
                 Answer.resume();
                 Resolve(Answer.statusCode);
@@ -242,7 +234,7 @@ describe("who may talk to the panel", () => {
         });
 
     it("refuses bridge calls and the event stream from other origins and other host names", async () => {
-        const Own = new URL(Host.PanelUrl);
+        const Own = new URL(Context.Host.PanelUrl);
         const Call = JSON.stringify({ function: "signin", args: ["demo", "demo"] });
         assert.equal(await Request("POST", "/__orv/call", { Origin: Own.origin, Host: Own.host }, Call), 200);
         assert.equal(await Request("POST", "/__orv/call", { Origin: "http://evil.example", Host: Own.host }, Call), 403);

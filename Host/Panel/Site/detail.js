@@ -1,7 +1,7 @@
 // Product and finish pages (/go/product/<id>, /go/finish/<id>), built from the host's catalogue data.
 "use strict";
 
-const Kind = document.getElementById("detail").dataset.kind;
+const Kind = location.pathname.startsWith("/go/finish/") ? "finish" : "product";
 const Id = decodeURIComponent(location.pathname.split("/").pop());
 const Text = (ElementId, Value) => (document.getElementById(ElementId).textContent = Value || "");
 
@@ -43,11 +43,12 @@ async function Show() {
         : (Record.products || []).filter((ProductId) => Products.has(ProductId))
             .map((ProductId) => Link(`/go/product/${encodeURIComponent(ProductId)}`, Products.get(ProductId).name));
     document.getElementById("detail-related").replaceChildren(...Related);
+    Text("detail-related-title", Kind === "product" ? "Finishes" : "Made in this finish");
     document.getElementById("detail-related-title").hidden = Related.length === 0;
     const Download = document.getElementById("detail-download");
-    if (Download && window.ue && window.ue.orvbridge) {
+    if (Kind === "product" && window.ue && window.ue.orvbridge) {
         Download.addEventListener("click", () => window.ue.orvbridge.addassetdownload(Id, "product"));
-    } else if (Download) {
+    } else {
         Download.hidden = true;
     }
 }
