@@ -4,9 +4,7 @@
 // no connection outlives its client. Routes: an immediate GET, a deferred POST echo, an event stream and a
 // fallback, so every path of the connection is reachable.
 #include "Host/Runtime/OrvBeast.h"
-#include "Host/Runtime/OrvBeastHttpServerModule.h"
-#include "Host/Runtime/OrvHostEventLoop.h"
-#include "Host/Runtime/OrvHostHttpRouter.h"
+#include "Tests/Support/OrvBeastServerRig.h"
 
 #include <boost/asio/read.hpp>
 #include <boost/asio/write.hpp>
@@ -35,32 +33,16 @@ namespace
         }
     }
 
-    std::unique_ptr<FOrvHttpResponse> Text(int Code, std::string Body)
+    /** The test rig's server with a route of every kind: immediate, deferred, event stream, fallback. */
+    struct FOrvFuzzServer : FOrvBeastServerRig
     {
-        auto Response = std::make_unique<FOrvHttpResponse>();
-        Response->Code = Code;
-        Response->ContentType = "text/plain";
-        Response->Body = std::move(Body);
-        return Response;
-    }
-
-    struct FOrvFuzzServer
-    {
-        FOrvFuzzServer() : Module(Loop)
+        FOrvFuzzServer()
         {
-            Router = Module.GetHostHttpRouter(0);
-            Module.StartAllListeners();
+            BindEcho("/mcp", EOrvHttpVerb::Post);
             Router->BindRoute("/health", EOrvHttpVerb::Get,
                               [](const FOrvHttpRequest& Request, const FOrvHttpResultCallback& Done)
                               {
-                                  Done(Text(200, Request.Query));
-                                  return true;
-                              });
-            Router->BindRoute("/mcp", EOrvHttpVerb::Post,
-                              [this](const FOrvHttpRequest& Request, const FOrvHttpResultCallback& Done)
-                              {
-                                  Loop.GameThread().Post([Done, Body = Request.Body]
-                                                         { Done(Text(200, Body)); });
+                                  Done(MakeTextResponse(Request.Query));
                                   return true;
                               });
             Router->BindEventStream(
@@ -77,16 +59,12 @@ namespace
                     {
                         return false;
                     }
-                    auto Response = Text(404, Request.Path);
+                    auto Response = MakeTextResponse(Request.Path, 404);
                     Response->Headers = {{"X-Header-Count", std::to_string(Request.Headers.size())}};
                     Done(std::move(Response));
                     return true;
                 });
         }
-
-        FOrvHostEventLoop Loop;
-        FOrvBeastHttpServerModule Module;
-        std::shared_ptr<FOrvHostHttpRouter> Router;
     };
 
     /** Everything the server sent must parse as whole responses, the last one possibly ended by the close. */
@@ -121,9 +99,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* Data, std::size_t Size
     tcp::socket Client(Server.Loop.Context());
     // Asynchronous, so libFuzzer's timer signals cannot interrupt it.
     std::optional<FErrorCode> Connected;
-    Client.async_connect(
-        {asio::ip::address_v4::loopback(), static_cast<unsigned short>(Server.Module.GetBoundPort(0))},
-        [&Connected](const FErrorCode& Error) { Connected = Error; });
+    Client.async_connect({asio::ip::address_v4::loopback(), Server.Port()},
+                         [&Connected](const FErrorCode& Error) { Connected = Error; });
     Server.Loop.RunUntil([&] { return Connected.has_value(); }, 5.0);
     Check(Connected && !*Connected, "the server accepts", Connected ? Connected->message() : "no answer");
 
