@@ -118,11 +118,9 @@ TEST(FOrvHttpCatalogApiTest, BadHostileAndUnreachableServicesFailOnceWithTheirOw
         {"html", Answer("<html>maintenance</html>")},
         {"array", Answer("[1,2,3]")},
         {"truncated", Answer(R"({"status":true,"products":{)")},
-        {"huge", Answer(R"({"pad":")" + std::string(8192, 'x') + "\"}")},
         {"endless body", Hostile(Ok + "\r\n{\"pad\":\"", std::string(16384, 'x'))},
         {"endless headers", Hostile(Ok, "X-Pad: " + std::string(1000, 'p') + "\r\n")},
         {"64 KiB trailer", Hostile(Chunked + "0\r\nX-T: " + std::string(64 * 1024, 't') + "\r\n\r\n")},
-        {"endless trailer", Hostile(Chunked + "0\r\nX-T: ", std::string(16384, 't'))},
         {"endless chunk line", Hostile(Chunked, std::string(16384, '0'))},
         {"slowloris", Hostile(Ok, "X-A: b\r\n", 0.02)}};
     FOrvTestCatalogService Service(Loop.Context(), [&](const FOrvTestCatalogRequest& Request)
@@ -152,11 +150,9 @@ TEST(FOrvHttpCatalogApiTest, BadHostileAndUnreachableServicesFailOnceWithTheirOw
                  {Api, "html", "not JSON"},
                  {Api, "array", "not a JSON object"},
                  {Api, "truncated", "not JSON"},
-                 {Api, "huge", "larger than 4096 bytes"},
                  {Api, "endless body", "larger than 4096 bytes"},
                  {Api, "endless headers", "header is larger than"},
                  {Api, "64 KiB trailer", "longer than 64 KiB"},
-                 {Api, "endless trailer", "longer than 64 KiB"},
                  {Api, "endless chunk line", "longer than 64 KiB"},
                  {ImpatientApi, "slowloris", "no answer within 0.2 s"},
                  {Refused, "refused", ""},

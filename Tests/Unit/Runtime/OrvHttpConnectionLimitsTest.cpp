@@ -53,10 +53,12 @@ namespace
 
 // A flood of connections that send nothing (or sent a request and went quiet) must not lock out the user's
 // real client: it takes the place of the one idle longest. What is under way keeps its place.
-TEST(FOrvHttpConnectionLimitsTest, AFullServerGivesTheLongestIdleSlotToANewClientButNeverARequestUnderWay)
+TEST(FOrvHttpConnectionLimitsTest,
+     AFullServerGivesTheLongestIdleSlotToANewcomerAndKeepsWorkUnderWayAndNewStreams)
 {
     FOrvHttpServerLimits Limits;
     Limits.MaxConnections = 4;
+    Limits.MaxEventStreams = 1;
     FOrvLimitsRig Rig(Limits);
     FOrvTestHttpClient& Stream = Rig.NewClient();
     ASSERT_EQ(Stream.OpenStream("/events").Status, 200);
@@ -75,46 +77,17 @@ TEST(FOrvHttpConnectionLimitsTest, AFullServerGivesTheLongestIdleSlotToANewClien
     EXPECT_EQ(Rig.NewClient().Post("/mcp", "{}").Status, 200);
     EXPECT_TRUE(Used.HasServerClosed());
 
-    // The request under way and the live stream stay; only idle connections give way.
+    // The request under way and the live stream stay; only idle connections give way...
     EXPECT_TRUE(Partial.WriteRaw("ngth: 3\r\n\r\nabc"));
     EXPECT_EQ(Partial.ReadReply().Body, "abc");
-    EXPECT_TRUE(Rig.Streams[0]->IsOpen());
     EXPECT_TRUE(Rig.Streams[0]->SendEvent("still", "open"));
     EXPECT_TRUE(Stream.ReadStreamUntil("data: open\n\n"));
-}
 
-TEST(FOrvHttpConnectionLimitsTest, WithNothingIdleANewClientGets503UntilASlotFrees)
-{
-    FOrvHttpServerLimits Limits;
-    Limits.MaxConnections = 2;
-    FOrvLimitsRig Rig(Limits);
-    FOrvTestHttpClient& First = Rig.NewClient();
-    FOrvTestHttpClient& Second = Rig.NewClient();
-    ASSERT_TRUE(First.WriteRaw("POST /mcp HTTP/1.1\r\n"));
-    ASSERT_TRUE(Second.WriteRaw("POST /mcp HTTP/1.1\r\n"));
-    ASSERT_TRUE(Rig.WaitForConnections(2));
-    const FOrvTestHttpReply Refused = Rig.NewClient().Post("/mcp", "{}");
-    EXPECT_EQ(Refused.Status, 503);
-    EXPECT_EQ(Refused.Header("Retry-After"), "1");
-
-    First.Disconnect();
-    EXPECT_TRUE(Rig.WaitForConnections(1));
-    EXPECT_EQ(Rig.NewClient().Post("/mcp", "{}").Status, 200);
-}
-
-TEST(FOrvHttpConnectionLimitsTest, ANewEventStreamPastTheCapEndsTheOldestStream)
-{
-    FOrvHttpServerLimits Limits;
-    Limits.MaxEventStreams = 2;
-    FOrvLimitsRig Rig(Limits);
-    for (int Index = 0; Index < 3; ++Index)
-    {
-        ASSERT_EQ(Rig.NewClient().OpenStream("/events").Status, 200);
-    }
+    // ...but a newer stream past the streams' own cap ends the oldest: a reloaded page's replaces the old.
+    ASSERT_EQ(Rig.NewClient().OpenStream("/events").Status, 200);
     EXPECT_FALSE(Rig.Streams[0]->IsOpen());
-    EXPECT_TRUE(Rig.Clients[0]->WaitForServerClose(5.0));
+    EXPECT_TRUE(Stream.WaitForServerClose(5.0));
     EXPECT_TRUE(Rig.Streams[1]->IsOpen());
-    EXPECT_TRUE(Rig.Streams[2]->IsOpen());
 }
 
 // Deadlines count from the start of what is awaited, so a client that sends a byte now and then cannot keep

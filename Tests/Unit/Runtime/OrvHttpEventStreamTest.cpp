@@ -97,8 +97,9 @@ TEST(FOrvHttpEventStreamTest, StreamsEndOnceByEitherSideCountAsConnectionsAndGet
         FOrvTestHttpClient Leaver(Rig.Loop.Context(), Rig.Port());
         ASSERT_EQ(Leaver.OpenStream("/events").Status, 200);
         EXPECT_TRUE(Leaver.ReadStreamUntil(": \n\n", 2.0)) << "an idle stream gets heartbeats";
-        EXPECT_EQ(FOrvTestHttpClient(Rig.Loop.Context(), Rig.Port()).Get("/events").Status, 503)
-            << "an open stream counts toward the connection cap";
+        const FOrvTestHttpReply Refused = FOrvTestHttpClient(Rig.Loop.Context(), Rig.Port()).Get("/events");
+        EXPECT_EQ(Refused.Status, 503) << "an open stream counts toward the connection cap";
+        EXPECT_EQ(Refused.Header("Retry-After"), "1");
     }
     EXPECT_TRUE(Rig.WaitForClosed(1));
     EXPECT_FALSE(Rig.Streams[0]->IsOpen());
