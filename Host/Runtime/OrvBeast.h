@@ -22,8 +22,8 @@ namespace OrvWebBridge
         using tcp = boost::asio::ip::tcp;
         using FErrorCode = boost::system::error_code;
 
-        /** Seconds as the clock duration that Asio timers and Beast streams take; negative or NaN is none, and
-         *  anything past a billion seconds (infinity too) is a billion, which the clock can still hold. */
+        /** Seconds as the clock duration that Asio timers and Beast streams take; negative or NaN is none,
+         * and anything past a billion seconds (infinity too) is a billion, which the clock can still hold. */
         inline std::chrono::steady_clock::duration Seconds(double Value)
         {
             const double Clamped = Value > 0.0 ? (Value < 1e9 ? Value : 1e9) : 0.0;
