@@ -1,6 +1,5 @@
 #include "Host/Runtime/OrvServeSession.h"
 
-#include "Core/Common/OrvLogging.h"
 #include "Host/Editor/OrvMemoryEditor.h"
 #include "Host/Runtime/OrvHostEventLoop.h"
 
@@ -35,6 +34,8 @@ namespace OrvWebBridge
     {
         // The outliner's panel unregisters from the editor and the loop's timers while both still exist.
         Outliner.reset();
+        // The endpoint and the panel stop in the module's shut-down order, if Run did not already.
+        Lifecycle.reset();
     }
 
     bool FOrvServeSession::OpenOutliner(const FOrvCatalogSourceOptions& Catalog, std::string& Error)
@@ -53,23 +54,15 @@ namespace OrvWebBridge
     {
         // Output to a closed pipe must fail as a write error, not end the host.
         std::signal(SIGPIPE, SIG_IGN);
-        std::string McpError;
-        const bool bMcp = Endpoint.Start(Port, McpError);
-        if (!bMcp && !PanelOptions)
+        ModuleHost = std::make_unique<FOrvHostModuleHost>(Endpoint, Panel, PanelOptions);
+        Lifecycle = std::make_unique<FOrvModuleLifecycle>(*ModuleHost, Log, Port);
+        Lifecycle->Startup();
+        const bool bMcp = Lifecycle->IsMcpServerRunning();
+        const bool bPanelFailed = PanelOptions && !Lifecycle->IsStepDone(EOrvModuleStep::CatalogTabSpawner);
+        if (bPanelFailed || (!bMcp && !PanelOptions))
         {
-            Error = McpError;
-            return false;
-        }
-        if (!bMcp)
-        {
-            OrvLogf(Log, EOrvLogCategory::LogTemp, EOrvLogVerbosity::Warning,
-                    "Orv MCP: failed to start server on port %u (port in use? firewall?). Other plugin "
-                    "functionality is unaffected.",
-                    Port);
-        }
-        if (PanelOptions && !Panel.Start(*PanelOptions, Error))
-        {
-            Endpoint.Stop();
+            Error = bPanelFailed ? ModuleHost->GetPanelError() : ModuleHost->GetMcpError();
+            Lifecycle->Shutdown();
             return false;
         }
         Signals = std::make_unique<FOrvStopSignals>(Loop, [this](int) { Loop.Stop(); });
@@ -101,8 +94,10 @@ namespace OrvWebBridge
         Loop.Run();
         Input.Stop();
         Signals.reset();
-        Panel.Stop();
-        Endpoint.Stop();
+        if (Lifecycle)
+        {
+            Lifecycle->Shutdown();
+        }
         if (Editor.IsDirty())
         {
             std::fprintf(stderr, "orv-host: the level's unsaved changes were discarded.\n");

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "Core/Module/OrvModuleLifecycle.h"
 #include "Host/Panel/OrvHostPanel.h"
 #include "Host/Runtime/OrvConsoleInput.h"
 #include "Host/Runtime/OrvHostMcpEndpoint.h"
+#include "Host/Runtime/OrvHostModuleHost.h"
 #include "Host/Runtime/OrvServeConsole.h"
 #include "Host/Runtime/OrvServeOutliner.h"
 #include "Host/Runtime/OrvStopSignals.h"
@@ -22,6 +24,7 @@ namespace OrvWebBridge
     /**
      * @brief One run of "orv-host serve" once the level is loaded: the MCP endpoint, the catalogue panel, the
      * console on standard input and the stop signals, all on the event loop, until quit, Ctrl+C or SIGTERM.
+     * The endpoint and the panel start and stop through the plugin module's lifecycle, as in the editor.
      */
     class FOrvServeSession
     {
@@ -37,16 +40,17 @@ namespace OrvWebBridge
         bool OpenOutliner(const FOrvCatalogSourceOptions& Catalog, std::string& Error);
 
         /**
-         * Serves MCP on Port and, unless Panel is empty, the catalogue panel; prints a URL line for each.
-         * As in the editor, a port for MCP that cannot be had leaves the rest running with a Warning; without
-         * a panel that would leave nothing, so it fails. False with a message for the user in Error.
+         * Runs the module's start-up: serves the catalogue panel unless Panel is empty, and MCP on Port;
+         * prints a URL line for each. As in the editor, a port for MCP that cannot be had leaves the rest
+         * running with one Warning; without a panel that would leave nothing, so it fails. False with a
+         * message for the user in Error, after undoing what had started.
          */
         bool Start(std::uint32_t Port, const std::optional<FOrvHostPanelOptions>& Panel, std::string& Error);
 
         /** Reads console commands from InputFd (standard input); false when it cannot be read. */
         bool StartConsole(int InputFd);
 
-        /** Runs the loop until quit or a stop signal, then stops the endpoint; the exit code. */
+        /** Runs the loop until quit or a stop signal, then runs the module's shut-down; the exit code. */
         int Run();
 
         FOrvServeConsole& GetConsole() { return Console; }
@@ -63,6 +67,8 @@ namespace OrvWebBridge
         IOrvLog& Log;
         FOrvHostMcpEndpoint Endpoint;
         FOrvHostPanel Panel;
+        std::unique_ptr<FOrvHostModuleHost> ModuleHost;
+        std::unique_ptr<FOrvModuleLifecycle> Lifecycle;
         FOrvServeConsole Console;
         FOrvConsoleInput Input;
         std::unique_ptr<FOrvStopSignals> Signals;
