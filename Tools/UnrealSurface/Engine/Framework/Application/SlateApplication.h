@@ -6,6 +6,7 @@
 //   https://dev.epicgames.com/documentation/en-us/unreal-engine/API/Runtime/Slate/FSlateApplication/FindBestParentWindowHandleForDia-
 //   https://dev.epicgames.com/documentation/en-us/unreal-engine/API/Runtime/Slate/FSlateApplication/RegisterInputPreProcessor
 //   https://dev.epicgames.com/documentation/unreal-engine/API/Runtime/Slate/Framework/Application/FSlateApplication/UnregisterInputP-?application_version=5.5
+//   https://dev.epicgames.com/documentation/unreal-engine/API/Runtime/Slate/Framework/Application/FSlateApplication/AddWindow?application_version=5.4
 
 #include "CoreMinimal.h"
 #include "Rendering/SlateRenderer.h"
@@ -27,6 +28,10 @@ public:
     /** Shows the window modally over the parent's window and returns once it has closed. */
     void AddModalWindow(TSharedRef<SWindow> InSlateWindow, const TSharedPtr<const SWidget> InParentWidget,
                         bool bSlowTaskWindow = false);
+
+    /** Shows a new top-level window (non-modal) and returns it; give it its content first. */
+    virtual TSharedRef<SWindow> AddWindow(TSharedRef<SWindow> InSlateWindow,
+                                          const bool bShowImmediately = true);
 
     /** Adds the pre-processor if it is not registered yet; true when it was added. 5.5 added overloads with
      *  a pre-processor type and an index; this single-argument one is declared. */
