@@ -2,12 +2,18 @@
 
 #include "CoreMinimal.h"
 
+#include "Core/Bridge/OrvAccountEventRelay.h"
+#include "Core/Bridge/OrvScriptBridge.h"
+#include "Core/Bridge/OrvWebPanelSession.h"
 #include "Core/Mcp/OrvMcpPorts.h"
 #include "Core/Module/OrvGuardedGameThread.h"
 #include "Core/Outliner/OrvOutlinerPanelModel.h"
 #include "Core/Panel/OrvWebPanelService.h"
+#include "Unreal/Closed/OrvUnrealCatalogAccount.h"
 #include "Unreal/OrvUnrealActorEditing.h"
 #include "Unreal/OrvUnrealAssetRegistry.h"
+#include "Unreal/OrvUnrealBrowserCookies.h"
+#include "Unreal/OrvUnrealBrowserWindows.h"
 #include "Unreal/OrvUnrealEditorUi.h"
 #include "Unreal/OrvUnrealEditorWorld.h"
 #include "Unreal/OrvUnrealEnvironment.h"
@@ -31,6 +37,8 @@
 #endif
 
 class SOrvOutlinerPanel;
+class SWebBrowser;
+class UOrvJSBridge;
 
 namespace OrvWebBridge
 {
@@ -39,10 +47,10 @@ namespace OrvWebBridge
 
     /**
      * @brief The one place that builds the plugin: every adapter, the handle table they share, the
-     * process-wide MCP handler (made on first use) and the server, the catalogue panel's services and the
-     * outliner panels' models. Members are destroyed in reverse order, so the server goes first and the
-     * guarded game-thread queue last: a task still queued then is dropped, never run against a destroyed
-     * adapter. Game thread.
+     * process-wide MCP handler (made on first use) and the server, the catalogue panel's services (its
+     * session, account events and script bridge) and the outliner panels' models. Members are destroyed in
+     * reverse order, so the server goes first and the guarded game-thread queue last: a task still queued
+     * then is dropped, never run against a destroyed adapter. Game thread.
      */
     class FOrvComposition
     {
@@ -54,7 +62,18 @@ namespace OrvWebBridge
 
         IOrvLog& GetLog() { return Log; }
         FOrvWebPanelService& GetWebPanelService() { return WebPanelService; }
-        FOrvUnrealWebPanel& GetWebPanel() { return WebPanel; }
+        FOrvWebPanelSession& GetWebPanelSession() { return WebPanelSession; }
+        FOrvScriptBridge& GetScriptBridge() { return ScriptBridge; }
+
+        /**
+         * The catalogue tab made its browser: the panel services use it, the page's "OrvBridge" object is
+         * bound into it (rooted while the panel lives), the account's notifications reach the page, and the
+         * site loads once the session cookies are in. A browser already open is closed first.
+         */
+        void OpenCatalogPanel(const TSharedRef<SWebBrowser>& Browser);
+
+        /** The catalogue tab closed (or the module goes): all of that is undone. */
+        void CloseCatalogPanel();
 
         /** Makes the MCP server and starts it on Port; false, and no server kept, when it cannot listen. */
         bool StartMcpServer(uint32 Port);
@@ -70,6 +89,8 @@ namespace OrvWebBridge
         FOrvMcpHandler& GetMcpHandler();
         FOrvMcpPorts GetMcpPorts();
         FOrvOutlinerPanelPorts GetOutlinerPorts();
+        FOrvScriptBridgePorts GetScriptBridgePorts();
+        FOrvWebPanelSessionPorts GetWebPanelSessionPorts();
         /** Tells every live outliner panel that the editor's world went, or that a new one came. */
         void ForwardMapChange(bool bWorldTornDown);
 
@@ -96,11 +117,21 @@ namespace OrvWebBridge
 #endif
         FOrvUnrealWebPanel WebPanel;
         FOrvWebPanelService WebPanelService{WebPanel, Log};
+        FOrvUnrealCatalogAccount Account;
+        FOrvUnrealBrowserCookies BrowserCookies;
+        FOrvUnrealBrowserWindows BrowserWindows;
+        FOrvWebPanelSession WebPanelSession{GetWebPanelSessionPorts(), FOrvCatalogSite::Orvessa()};
+        FOrvAccountEventRelay AccountEventRelay{WebPanelSession, Log};
+        FOrvScriptBridge ScriptBridge{GetScriptBridgePorts()};
         FOrvUnrealEditorUi EditorUi{Handles};
         FOrvUnrealHttpServerModule HttpServer;
 
         TUniquePtr<FOrvMcpHandler> McpHandler;
         TUniquePtr<FOrvMcpServer> McpServer;
+
+        /** The page's "OrvBridge" and the account's notifications, while the catalogue panel is open. */
+        UOrvJSBridge* JSBridge = nullptr;
+        TUniquePtr<FOrvUnrealAccountEvents> AccountEvents;
 
         TArray<TWeakPtr<SOrvOutlinerPanel>> OutlinerPanels;
         FDelegateHandle MapChangedHandle;

@@ -1,5 +1,6 @@
 #include "OrvessaWebBridge.h"
 
+#include "OrvCatalogBrowser.h"
 #include "OrvComposition.h"
 #include "OrvOutlinerPanel.h"
 #include "OrvessaWebBridgeStyle.h"
@@ -68,10 +69,23 @@ void FOrvessaWebBridgeModule::ExecuteJavaScript(const FString& Script)
 
 void FOrvessaWebBridgeModule::SetCatalogBrowser(TSharedPtr<SWebBrowser> Browser)
 {
-    if (Composition)
+    if (!Composition)
     {
-        Composition->GetWebPanel().SetBrowser(MoveTemp(Browser));
+        return;
     }
+    if (Browser.IsValid())
+    {
+        Composition->OpenCatalogPanel(Browser.ToSharedRef());
+    }
+    else
+    {
+        Composition->CloseCatalogPanel();
+    }
+}
+
+FOrvScriptBridge* FOrvessaWebBridgeModule::GetScriptBridge()
+{
+    return Composition ? &Composition->GetScriptBridge() : nullptr;
 }
 
 void FOrvessaWebBridgeModule::PluginButtonClicked()
@@ -159,7 +173,7 @@ TSharedRef<SDockTab> FOrvessaWebBridgeModule::SpawnCatalogTab(const FSpawnTabArg
         [
             SNew(SVerticalBox)
             + SVerticalBox::Slot().AutoHeight()[SNew(SBox)]
-            + SVerticalBox::Slot().FillHeight(1.0f)[SNew(SBox)]
+            + SVerticalBox::Slot().FillHeight(1.0f)[SNew(SOrvCatalogBrowser)]
         ];
     // clang-format on
 }

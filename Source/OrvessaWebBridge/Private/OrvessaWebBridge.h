@@ -15,6 +15,7 @@ namespace OrvWebBridge
 {
     class FOrvComposition;
     class FOrvModuleLifecycle;
+    class FOrvScriptBridge;
     class FOrvUnrealModuleHost;
 } // namespace OrvWebBridge
 
@@ -42,6 +43,8 @@ public:
     void ExecuteJavaScript(const FString& Script);
     /** The catalogue tab's browser, once the tab has made it; null when the tab closes. */
     void SetCatalogBrowser(TSharedPtr<SWebBrowser> Browser);
+    /** The script bridge the page's "OrvBridge" calls reach; null while the module is not started. */
+    OrvWebBridge::FOrvScriptBridge* GetScriptBridge();
 
     // Command and menu actions.
     /** OpenPluginWindow: opens or focuses the "Orv Catalog" tab. */

@@ -1,0 +1,142 @@
+#include "OrvJSBridge.h"
+
+#include "OrvessaWebBridge.h"
+
+#include "Core/Bridge/OrvScriptBridge.h"
+#include "Unreal/OrvUnrealConversions.h"
+
+using OrvWebBridge::FOrvScriptBridge;
+using OrvWebBridge::FOrvUnrealConversions;
+
+namespace
+{
+    /** The plugin's script bridge; null once the module has gone (a page can outlive it at shut-down). */
+    FOrvScriptBridge* OrvJSBridgeCore()
+    {
+        FOrvessaWebBridgeModule* Module = FOrvessaWebBridgeModule::GetLoaded();
+        return Module ? Module->GetScriptBridge() : nullptr;
+    }
+
+    std::string OrvJSBridgeUtf8(const FString& Text)
+    {
+        return FOrvUnrealConversions::ToUtf8(Text);
+    }
+
+    /** What a JSON-answering function gives a page whose plugin has gone: the account-less answer. */
+    FString OrvJSBridgeJson(FOrvScriptBridge* Bridge, std::string (FOrvScriptBridge::*Function)())
+    {
+        return Bridge ? FOrvUnrealConversions::ToFString((Bridge->*Function)()) : FString(TEXT("{}"));
+    }
+} // namespace
+
+void UOrvJSBridge::AddAssetDownload(const FString& AssetID, const FString& AssetType)
+{
+    if (FOrvScriptBridge* Bridge = OrvJSBridgeCore())
+    {
+        Bridge->AddAssetDownload(OrvJSBridgeUtf8(AssetID), OrvJSBridgeUtf8(AssetType));
+    }
+}
+
+void UOrvJSBridge::AddProductToProject(const FString& ProductID)
+{
+    if (FOrvScriptBridge* Bridge = OrvJSBridgeCore())
+    {
+        Bridge->AddProductToProject(OrvJSBridgeUtf8(ProductID));
+    }
+}
+
+void UOrvJSBridge::ClearLibraryData()
+{
+    if (FOrvScriptBridge* Bridge = OrvJSBridgeCore())
+    {
+        Bridge->ClearLibraryData();
+    }
+}
+
+FString UOrvJSBridge::GetLibraryInfo()
+{
+    return OrvJSBridgeJson(OrvJSBridgeCore(), &FOrvScriptBridge::GetLibraryInfo);
+}
+
+FString UOrvJSBridge::GetUserDetails()
+{
+    return OrvJSBridgeJson(OrvJSBridgeCore(), &FOrvScriptBridge::GetUserDetails);
+}
+
+bool UOrvJSBridge::IsCoreAuthorized()
+{
+    FOrvScriptBridge* Bridge = OrvJSBridgeCore();
+    return Bridge && Bridge->IsCoreAuthorized();
+}
+
+void UOrvJSBridge::LogoutUser()
+{
+    if (FOrvScriptBridge* Bridge = OrvJSBridgeCore())
+    {
+        Bridge->LogoutUser();
+    }
+}
+
+void UOrvJSBridge::OpenExternalURL(const FString& URL)
+{
+    if (FOrvScriptBridge* Bridge = OrvJSBridgeCore())
+    {
+        Bridge->OpenExternalURL(OrvJSBridgeUtf8(URL));
+    }
+}
+
+void UOrvJSBridge::OpenOAuthPopup(const FString& URL)
+{
+    if (FOrvScriptBridge* Bridge = OrvJSBridgeCore())
+    {
+        Bridge->OpenOAuthPopup(OrvJSBridgeUtf8(URL));
+    }
+}
+
+void UOrvJSBridge::RefreshPanel()
+{
+    if (FOrvScriptBridge* Bridge = OrvJSBridgeCore())
+    {
+        Bridge->RefreshPanel();
+    }
+}
+
+void UOrvJSBridge::RemoveProductFromLibrary(const FString& ProductID)
+{
+    if (FOrvScriptBridge* Bridge = OrvJSBridgeCore())
+    {
+        Bridge->RemoveProductFromLibrary(OrvJSBridgeUtf8(ProductID));
+    }
+}
+
+void UOrvJSBridge::SetSessionToken(const FString& Token)
+{
+    if (FOrvScriptBridge* Bridge = OrvJSBridgeCore())
+    {
+        Bridge->SetSessionToken(OrvJSBridgeUtf8(Token));
+    }
+}
+
+void UOrvJSBridge::SignIn(const FString& Username, const FString& Password)
+{
+    if (FOrvScriptBridge* Bridge = OrvJSBridgeCore())
+    {
+        Bridge->SignIn(OrvJSBridgeUtf8(Username), OrvJSBridgeUtf8(Password));
+    }
+}
+
+void UOrvJSBridge::TestOrvEventBus()
+{
+    if (FOrvScriptBridge* Bridge = OrvJSBridgeCore())
+    {
+        Bridge->TestOrvEventBus();
+    }
+}
+
+void UOrvJSBridge::TriggerAuthCheck()
+{
+    if (FOrvScriptBridge* Bridge = OrvJSBridgeCore())
+    {
+        Bridge->TriggerAuthCheck();
+    }
+}
