@@ -17,6 +17,21 @@ namespace
 {
     constexpr double ExitTimeoutSeconds = 10.0;
     constexpr const char* StoppedLine = "LogOrvMcp: Orv MCP: server stopped";
+
+    /** "orv-host serve" with Args ends before serving, with an error that names Named. */
+    void ExpectTheRunEnds(const std::vector<std::string>& Args, const std::string& Named)
+    {
+        FOrvHostProcess Host;
+        std::string Error;
+        std::vector<std::string> Words{"serve", "--no-console"};
+        Words.insert(Words.end(), Args.begin(), Args.end());
+        ASSERT_TRUE(Host.Start(ORV_HOST_EXECUTABLE, Words, Error)) << Error;
+        const std::optional<int> Code = Host.WaitForExit(ExitTimeoutSeconds);
+        ASSERT_TRUE(Code.has_value()) << Named;
+        EXPECT_NE(*Code, 0) << Named;
+        EXPECT_NE(Host.GetErrors().find(Named), std::string::npos) << Host.GetErrors();
+        EXPECT_EQ(Host.GetOutput().find("Serving MCP"), std::string::npos) << Named;
+    }
 } // namespace
 
 TEST(FOrvServeLifecycleEndToEndTest, StopSignalsEndTheHostCleanly)
@@ -117,22 +132,10 @@ TEST(FOrvServeLifecycleEndToEndTest, ABusyMcpPortLeavesThePanelServingAndABusyPa
     const std::string Origin = "Orv Catalog: http://127.0.0.1:";
     const std::string PanelPort =
         PanelLine->substr(Origin.size(), PanelLine->find('/', Origin.size()) - Origin.size());
-    const std::pair<std::vector<std::string>, std::string> Cases[] = {
-        {{"--port", Port, "--no-panel"}, "port " + Port + " is already in use; pick another with --port"},
-        {{"--port", "0", "--panel-port", PanelPort},
-         "port " + PanelPort + " is already in use; pick another with --panel-port"}};
-    for (const auto& [Args, Message] : Cases)
-    {
-        FOrvHostProcess Ended;
-        std::vector<std::string> Words{"serve", "--no-console"};
-        Words.insert(Words.end(), Args.begin(), Args.end());
-        ASSERT_TRUE(Ended.Start(ORV_HOST_EXECUTABLE, Words, Error)) << Error;
-        const std::optional<int> Code = Ended.WaitForExit(ExitTimeoutSeconds);
-        ASSERT_TRUE(Code.has_value()) << Message;
-        EXPECT_NE(*Code, 0) << Message;
-        EXPECT_NE(Ended.GetErrors().find(Message), std::string::npos) << Ended.GetErrors();
-        EXPECT_EQ(Ended.GetOutput().find("Serving MCP"), std::string::npos) << Message;
-    }
+    ExpectTheRunEnds({"--port", Port, "--no-panel"},
+                     "port " + Port + " is already in use; pick another with --port");
+    ExpectTheRunEnds({"--port", "0", "--panel-port", PanelPort},
+                     "port " + PanelPort + " is already in use; pick another with --panel-port");
     EXPECT_EQ(First.Client().Get("/health").Status, 200) << "the first host keeps serving";
 }
 
@@ -146,16 +149,9 @@ TEST(FOrvServeLifecycleEndToEndTest, AMalformedSceneFileOrAnHttpsCatalogueIsRepo
         {{"--api", "https://api.orvessa.com"}, "https"}};
     for (const auto& [Args, Named] : Cases)
     {
-        FOrvHostProcess Host;
-        std::string Error;
-        std::vector<std::string> Words{"serve", "--port", "0"};
+        std::vector<std::string> Words{"--port", "0"};
         Words.insert(Words.end(), Args.begin(), Args.end());
-        ASSERT_TRUE(Host.Start(ORV_HOST_EXECUTABLE, Words, Error)) << Error;
-        const std::optional<int> Code = Host.WaitForExit(ExitTimeoutSeconds);
-        ASSERT_TRUE(Code.has_value()) << Named;
-        EXPECT_NE(*Code, 0) << Named;
-        EXPECT_NE(Host.GetErrors().find(Named), std::string::npos) << Host.GetErrors();
-        EXPECT_EQ(Host.GetOutput().find("Serving MCP"), std::string::npos) << Named;
+        ExpectTheRunEnds(Words, Named);
     }
     std::filesystem::remove(File);
 }

@@ -17,6 +17,15 @@ namespace
         return Module ? Module->GetScriptBridge() : nullptr;
     }
 
+    /** Runs Call on the plugin's script bridge; nothing once the module has gone. */
+    template <typename TCall> void OrvJSBridgeForward(TCall&& Call)
+    {
+        if (FOrvScriptBridge* Bridge = OrvJSBridgeCore())
+        {
+            Call(*Bridge);
+        }
+    }
+
     std::string OrvJSBridgeUtf8(const FString& Text)
     {
         return FOrvUnrealConversions::ToUtf8(Text);
@@ -31,26 +40,19 @@ namespace
 
 void UOrvJSBridge::AddAssetDownload(const FString& AssetID, const FString& AssetType)
 {
-    if (FOrvScriptBridge* Bridge = OrvJSBridgeCore())
-    {
-        Bridge->AddAssetDownload(OrvJSBridgeUtf8(AssetID), OrvJSBridgeUtf8(AssetType));
-    }
+    OrvJSBridgeForward([&](FOrvScriptBridge& Bridge)
+                       { Bridge.AddAssetDownload(OrvJSBridgeUtf8(AssetID), OrvJSBridgeUtf8(AssetType)); });
 }
 
 void UOrvJSBridge::AddProductToProject(const FString& ProductID)
 {
-    if (FOrvScriptBridge* Bridge = OrvJSBridgeCore())
-    {
-        Bridge->AddProductToProject(OrvJSBridgeUtf8(ProductID));
-    }
+    OrvJSBridgeForward([&](FOrvScriptBridge& Bridge)
+                       { Bridge.AddProductToProject(OrvJSBridgeUtf8(ProductID)); });
 }
 
 void UOrvJSBridge::ClearLibraryData()
 {
-    if (FOrvScriptBridge* Bridge = OrvJSBridgeCore())
-    {
-        Bridge->ClearLibraryData();
-    }
+    OrvJSBridgeForward([&](FOrvScriptBridge& Bridge) { Bridge.ClearLibraryData(); });
 }
 
 FString UOrvJSBridge::GetLibraryInfo()
@@ -71,72 +73,47 @@ bool UOrvJSBridge::IsCoreAuthorized()
 
 void UOrvJSBridge::LogoutUser()
 {
-    if (FOrvScriptBridge* Bridge = OrvJSBridgeCore())
-    {
-        Bridge->LogoutUser();
-    }
+    OrvJSBridgeForward([&](FOrvScriptBridge& Bridge) { Bridge.LogoutUser(); });
 }
 
 void UOrvJSBridge::OpenExternalURL(const FString& URL)
 {
-    if (FOrvScriptBridge* Bridge = OrvJSBridgeCore())
-    {
-        Bridge->OpenExternalURL(OrvJSBridgeUtf8(URL));
-    }
+    OrvJSBridgeForward([&](FOrvScriptBridge& Bridge) { Bridge.OpenExternalURL(OrvJSBridgeUtf8(URL)); });
 }
 
 void UOrvJSBridge::OpenOAuthPopup(const FString& URL)
 {
-    if (FOrvScriptBridge* Bridge = OrvJSBridgeCore())
-    {
-        Bridge->OpenOAuthPopup(OrvJSBridgeUtf8(URL));
-    }
+    OrvJSBridgeForward([&](FOrvScriptBridge& Bridge) { Bridge.OpenOAuthPopup(OrvJSBridgeUtf8(URL)); });
 }
 
 void UOrvJSBridge::RefreshPanel()
 {
-    if (FOrvScriptBridge* Bridge = OrvJSBridgeCore())
-    {
-        Bridge->RefreshPanel();
-    }
+    OrvJSBridgeForward([&](FOrvScriptBridge& Bridge) { Bridge.RefreshPanel(); });
 }
 
 void UOrvJSBridge::RemoveProductFromLibrary(const FString& ProductID)
 {
-    if (FOrvScriptBridge* Bridge = OrvJSBridgeCore())
-    {
-        Bridge->RemoveProductFromLibrary(OrvJSBridgeUtf8(ProductID));
-    }
+    OrvJSBridgeForward([&](FOrvScriptBridge& Bridge)
+                       { Bridge.RemoveProductFromLibrary(OrvJSBridgeUtf8(ProductID)); });
 }
 
 void UOrvJSBridge::SetSessionToken(const FString& Token)
 {
-    if (FOrvScriptBridge* Bridge = OrvJSBridgeCore())
-    {
-        Bridge->SetSessionToken(OrvJSBridgeUtf8(Token));
-    }
+    OrvJSBridgeForward([&](FOrvScriptBridge& Bridge) { Bridge.SetSessionToken(OrvJSBridgeUtf8(Token)); });
 }
 
 void UOrvJSBridge::SignIn(const FString& Username, const FString& Password)
 {
-    if (FOrvScriptBridge* Bridge = OrvJSBridgeCore())
-    {
-        Bridge->SignIn(OrvJSBridgeUtf8(Username), OrvJSBridgeUtf8(Password));
-    }
+    OrvJSBridgeForward([&](FOrvScriptBridge& Bridge)
+                       { Bridge.SignIn(OrvJSBridgeUtf8(Username), OrvJSBridgeUtf8(Password)); });
 }
 
 void UOrvJSBridge::TestOrvEventBus()
 {
-    if (FOrvScriptBridge* Bridge = OrvJSBridgeCore())
-    {
-        Bridge->TestOrvEventBus();
-    }
+    OrvJSBridgeForward([&](FOrvScriptBridge& Bridge) { Bridge.TestOrvEventBus(); });
 }
 
 void UOrvJSBridge::TriggerAuthCheck()
 {
-    if (FOrvScriptBridge* Bridge = OrvJSBridgeCore())
-    {
-        Bridge->TriggerAuthCheck();
-    }
+    OrvJSBridgeForward([&](FOrvScriptBridge& Bridge) { Bridge.TriggerAuthCheck(); });
 }

@@ -22,6 +22,15 @@ namespace OrvWebBridge
         {
             return FOrvUnrealConversions::ToUtf8(Text);
         }
+
+        /** Runs Call on the maker's subsystem; nothing without it. */
+        template <typename TCall> void OrvWithSubsystem(TCall&& Call)
+        {
+            if (UOrvSubsystem* Subsystem = OrvClosedFindSubsystem())
+            {
+                Call(*Subsystem);
+            }
+        }
     } // namespace
 
     IOrvCatalogAccount* FOrvUnrealCatalogAccount::Find()
@@ -37,34 +46,23 @@ namespace OrvWebBridge
     // ASSUMED (4) in each call below: the parameters are FString by const reference and nothing is returned.
     void FOrvUnrealCatalogAccount::SetLoginState(bool bLoggedIn)
     {
-        if (UOrvSubsystem* Subsystem = OrvClosedFindSubsystem())
-        {
-            Subsystem->SetLoginState(bLoggedIn);
-        }
+        OrvWithSubsystem([&](UOrvSubsystem& Subsystem) { Subsystem.SetLoginState(bLoggedIn); });
     }
 
     void FOrvUnrealCatalogAccount::LoginUser(std::string_view Username, std::string_view Password)
     {
-        if (UOrvSubsystem* Subsystem = OrvClosedFindSubsystem())
-        {
-            Subsystem->LoginUser(OrvAccountText(Username), OrvAccountText(Password));
-        }
+        OrvWithSubsystem([&](UOrvSubsystem& Subsystem)
+                         { Subsystem.LoginUser(OrvAccountText(Username), OrvAccountText(Password)); });
     }
 
     void FOrvUnrealCatalogAccount::LogoutUser()
     {
-        if (UOrvSubsystem* Subsystem = OrvClosedFindSubsystem())
-        {
-            Subsystem->LogoutUser();
-        }
+        OrvWithSubsystem([&](UOrvSubsystem& Subsystem) { Subsystem.LogoutUser(); });
     }
 
     void FOrvUnrealCatalogAccount::CheckUserLoginState()
     {
-        if (UOrvSubsystem* Subsystem = OrvClosedFindSubsystem())
-        {
-            Subsystem->CheckUserLoginState();
-        }
+        OrvWithSubsystem([&](UOrvSubsystem& Subsystem) { Subsystem.CheckUserLoginState(); });
     }
 
     std::string FOrvUnrealCatalogAccount::GetCurrentUserJson() const
@@ -109,36 +107,33 @@ namespace OrvWebBridge
 
     void FOrvUnrealCatalogAccount::AddInstalledProductToProject(std::string_view ProductId)
     {
-        if (UOrvSubsystem* Subsystem = OrvClosedFindSubsystem())
-        {
-            Subsystem->AddInstalledProductToProject(OrvAccountText(ProductId));
-        }
+        OrvWithSubsystem([&](UOrvSubsystem& Subsystem)
+                         { Subsystem.AddInstalledProductToProject(OrvAccountText(ProductId)); });
     }
 
     void FOrvUnrealCatalogAccount::RemoveProductFromLibrary(std::string_view ProductId)
     {
-        if (UOrvSubsystem* Subsystem = OrvClosedFindSubsystem())
-        {
-            Subsystem->RemoveProductFromLibrary(OrvAccountText(ProductId));
-        }
+        OrvWithSubsystem([&](UOrvSubsystem& Subsystem)
+                         { Subsystem.RemoveProductFromLibrary(OrvAccountText(ProductId)); });
     }
 
     void FOrvUnrealCatalogAccount::ClearLibrary()
     {
-        if (UOrvSubsystem* Subsystem = OrvClosedFindSubsystem())
-        {
-            Subsystem->ClearLibrary();
-        }
+        OrvWithSubsystem([&](UOrvSubsystem& Subsystem) { Subsystem.ClearLibrary(); });
     }
 
     void FOrvUnrealCatalogAccount::EnqueueDownload(std::string_view AssetId, std::string_view AssetType)
     {
-        // ASSUMED (7): GetDownloadManager() answers a pointer, null while there is no download manager.
-        UOrvSubsystem* Subsystem = OrvClosedFindSubsystem();
-        if (UDownloadQueueManager* Downloads = Subsystem ? Subsystem->GetDownloadManager() : nullptr)
-        {
-            Downloads->EnqueueDownload(OrvAccountText(AssetId), OrvAccountText(AssetType));
-        }
+        OrvWithSubsystem(
+            [&](UOrvSubsystem& Subsystem)
+            {
+                // ASSUMED (7): GetDownloadManager() answers a pointer, null while there is no download
+                // manager.
+                if (UDownloadQueueManager* Downloads = Subsystem.GetDownloadManager())
+                {
+                    Downloads->EnqueueDownload(OrvAccountText(AssetId), OrvAccountText(AssetType));
+                }
+            });
     }
 
     FOrvUnrealAccountEvents::FOrvUnrealAccountEvents(IOrvCatalogAccountEvents& Events)
