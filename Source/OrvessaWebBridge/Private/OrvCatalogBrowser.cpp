@@ -1,7 +1,5 @@
 #include "OrvCatalogBrowser.h"
 
-#include "OrvessaWebBridge.h"
-
 #include "SWebBrowser.h"
 
 #include "Core/Panel/OrvWebPanelService.h"
@@ -13,7 +11,9 @@ using OrvWebBridge::FOrvWebPanelService;
 void SOrvCatalogBrowser::Construct(const FArguments&)
 {
     // clang-format off
-    const TSharedRef<SWebBrowser> Browser = SNew(SWebBrowser)
+    ChildSlot
+    [
+        SAssignNew(Browser, SWebBrowser)
         .InitialURL(TEXT("about:blank"))
         .ShowControls(false)
         .ShowAddressBar(false)
@@ -21,13 +21,9 @@ void SOrvCatalogBrowser::Construct(const FArguments&)
         .ShowInitialThrobber(true)
         .OnConsoleMessage(this, &SOrvCatalogBrowser::OnConsoleMessage)
         .OnLoadCompleted(this, &SOrvCatalogBrowser::OnLoadCompleted)
-        .OnLoadError(this, &SOrvCatalogBrowser::OnLoadError);
+        .OnLoadError(this, &SOrvCatalogBrowser::OnLoadError)
+    ];
     // clang-format on
-    ChildSlot[Browser];
-    if (FOrvessaWebBridgeModule* Module = FOrvessaWebBridgeModule::GetLoaded())
-    {
-        Module->SetCatalogBrowser(Browser);
-    }
 }
 
 void SOrvCatalogBrowser::OnConsoleMessage(const FString& Message, const FString& Source, int32 Line,

@@ -1,14 +1,10 @@
 #include "OrvComposition.h"
 
-#include "OrvJSBridge.h"
+#include "OrvCatalogPanel.h"
 #include "OrvOutlinerPanel.h"
-#include "OrvessaWebBridge.h"
 
 #include "LevelEditor.h"
 #include "Modules/ModuleManager.h"
-#include "SWebBrowser.h"
-#include "UObject/Package.h"
-#include "UObject/UObjectGlobals.h"
 #include "UnrealEdMisc.h"
 
 #include "Core/Mcp/OrvMcpHandler.h"
@@ -16,17 +12,14 @@
 
 namespace OrvWebBridge
 {
-    FOrvComposition::FOrvComposition() = default;
-
-    namespace
+    FOrvComposition::FOrvComposition()
+        : CatalogPanel(MakeUnique<FOrvCatalogPanel>(
+              WebPanelService, WebPanel, [this]() -> IOrvCatalogApi* { return CatalogApi.Find(); }, Log))
     {
-        /** The page's name for the bridge object: window.ue.orvbridge. */
-        const TCHAR* const OrvBridgeObjectName = TEXT("OrvBridge");
-    } // namespace
+    }
 
     FOrvComposition::~FOrvComposition()
     {
-        CloseCatalogPanel();
         // Open outliner tabs can outlive the module; their models go now, while the adapters they use exist.
         for (const TWeakPtr<SOrvOutlinerPanel>& WeakPanel : OutlinerPanels)
         {
@@ -67,40 +60,6 @@ namespace OrvWebBridge
         }
     }
 
-    void FOrvComposition::OpenCatalogPanel(const TSharedRef<SWebBrowser>& Browser)
-    {
-        CloseCatalogPanel();
-        WebPanel.SetBrowser(Browser);
-        // Nothing else refers to the bridge object, so it is rooted or the garbage collector would take it.
-        JSBridge = NewObject<UOrvJSBridge>(GetTransientPackage());
-        JSBridge->AddToRoot();
-        // Permanent: the binding outlives navigation, so every page of the site finds it.
-        Browser->BindUObject(OrvBridgeObjectName, JSBridge, /*bIsPermanent=*/true);
-        AccountEvents = MakeUnique<FOrvUnrealAccountEvents>(AccountEventRelay);
-        // The browser's cookie store completes each cookie later; the site is loaded only after the last
-        // completion, so its first request already carries the session.
-        WebPanelSession.OpenSite();
-    }
-
-    void FOrvComposition::CloseCatalogPanel()
-    {
-        AccountEvents.Reset();
-        if (JSBridge)
-        {
-            // At editor exit the object system may already be down, and the object with it.
-            if (UObjectInitialized())
-            {
-                if (const TSharedPtr<SWebBrowser> Browser = WebPanel.GetBrowser())
-                {
-                    Browser->UnbindUObject(OrvBridgeObjectName, JSBridge, /*bIsPermanent=*/true);
-                }
-                JSBridge->RemoveFromRoot();
-            }
-            JSBridge = nullptr;
-        }
-        WebPanel.SetBrowser(nullptr);
-    }
-
     TSharedRef<SOrvOutlinerPanel> FOrvComposition::MakeOutlinerPanel()
     {
         const TSharedRef<SOrvOutlinerPanel> Panel =
@@ -127,6 +86,21 @@ namespace OrvWebBridge
         return Panel;
     }
 
+    TSharedRef<SWidget> FOrvComposition::MakeCatalogBrowser()
+    {
+        return CatalogPanel->MakeBrowser();
+    }
+
+    void FOrvComposition::SetCatalogBrowser(TSharedPtr<SWebBrowser> Browser)
+    {
+        CatalogPanel->SetBrowser(MoveTemp(Browser));
+    }
+
+    FOrvScriptBridge& FOrvComposition::GetScriptBridge()
+    {
+        return CatalogPanel->GetScriptBridge();
+    }
+
     FOrvMcpHandler& FOrvComposition::GetMcpHandler()
     {
         if (!McpHandler)
@@ -145,21 +119,6 @@ namespace OrvWebBridge
     {
         return {World,  LevelEvents, Meshes, CatalogApi,  Selection, Editing,
                 Timers, EditorUi,    Files,  Environment, Log};
-    }
-
-    FOrvScriptBridgePorts FOrvComposition::GetScriptBridgePorts()
-    {
-        return {[this] { return Account.Find(); },
-                // The module's services only while the module is loaded, as the page's calls expect.
-                [this]() -> FOrvWebPanelSession*
-                { return FOrvessaWebBridgeModule::GetLoaded() ? &WebPanelSession : nullptr; },
-                BrowserWindows, Log};
-    }
-
-    FOrvWebPanelSessionPorts FOrvComposition::GetWebPanelSessionPorts()
-    {
-        return {WebPanelService, BrowserWindows, [this] { return CatalogApi.Find(); },
-                [this] { return BrowserCookies.Find(); }, Log};
     }
 
     void FOrvComposition::ForwardMapChange(bool bWorldTornDown)

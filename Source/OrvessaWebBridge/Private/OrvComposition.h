@@ -2,18 +2,12 @@
 
 #include "CoreMinimal.h"
 
-#include "Core/Bridge/OrvAccountEventRelay.h"
-#include "Core/Bridge/OrvScriptBridge.h"
-#include "Core/Bridge/OrvWebPanelSession.h"
 #include "Core/Mcp/OrvMcpPorts.h"
 #include "Core/Module/OrvGuardedGameThread.h"
 #include "Core/Outliner/OrvOutlinerPanelModel.h"
 #include "Core/Panel/OrvWebPanelService.h"
-#include "Unreal/Closed/OrvUnrealCatalogAccount.h"
 #include "Unreal/OrvUnrealActorEditing.h"
 #include "Unreal/OrvUnrealAssetRegistry.h"
-#include "Unreal/OrvUnrealBrowserCookies.h"
-#include "Unreal/OrvUnrealBrowserWindows.h"
 #include "Unreal/OrvUnrealEditorUi.h"
 #include "Unreal/OrvUnrealEditorWorld.h"
 #include "Unreal/OrvUnrealEnvironment.h"
@@ -38,19 +32,21 @@
 
 class SOrvOutlinerPanel;
 class SWebBrowser;
-class UOrvJSBridge;
+class SWidget;
 
 namespace OrvWebBridge
 {
+    class FOrvCatalogPanel;
     class FOrvMcpHandler;
     class FOrvMcpServer;
+    class FOrvScriptBridge;
 
     /**
      * @brief The one place that builds the plugin: every adapter, the handle table they share, the
-     * process-wide MCP handler (made on first use) and the server, the catalogue panel's services (its
-     * session, account events and script bridge) and the outliner panels' models. Members are destroyed in
-     * reverse order, so the server goes first and the guarded game-thread queue last: a task still queued
-     * then is dropped, never run against a destroyed adapter. Game thread.
+     * process-wide MCP handler (made on first use) and the server, the catalogue panel's services and the
+     * outliner panels' models. Members are destroyed in reverse order, so the server goes first and the
+     * guarded game-thread queue last: a task still queued then is dropped, never run against a destroyed
+     * adapter. Game thread.
      */
     class FOrvComposition
     {
@@ -62,18 +58,7 @@ namespace OrvWebBridge
 
         IOrvLog& GetLog() { return Log; }
         FOrvWebPanelService& GetWebPanelService() { return WebPanelService; }
-        FOrvWebPanelSession& GetWebPanelSession() { return WebPanelSession; }
-        FOrvScriptBridge& GetScriptBridge() { return ScriptBridge; }
-
-        /**
-         * The catalogue tab made its browser: the panel services use it, the page's "OrvBridge" object is
-         * bound into it (rooted while the panel lives), the account's notifications reach the page, and the
-         * site loads once the session cookies are in. A browser already open is closed first.
-         */
-        void OpenCatalogPanel(const TSharedRef<SWebBrowser>& Browser);
-
-        /** The catalogue tab closed (or the module goes): all of that is undone. */
-        void CloseCatalogPanel();
+        FOrvUnrealWebPanel& GetWebPanel() { return WebPanel; }
 
         /** Makes the MCP server and starts it on Port; false, and no server kept, when it cannot listen. */
         bool StartMcpServer(uint32 Port);
@@ -85,12 +70,20 @@ namespace OrvWebBridge
          */
         TSharedRef<SOrvOutlinerPanel> MakeOutlinerPanel();
 
+        /** A new "Orv Catalog" browser, handed at once to the catalogue panel's services (FOrvCatalogPanel).
+         */
+        TSharedRef<SWidget> MakeCatalogBrowser();
+
+        /** The catalogue tab's browser; null when the tab closes. */
+        void SetCatalogBrowser(TSharedPtr<SWebBrowser> Browser);
+
+        /** The script bridge the page's "OrvBridge" calls reach. */
+        FOrvScriptBridge& GetScriptBridge();
+
     private:
         FOrvMcpHandler& GetMcpHandler();
         FOrvMcpPorts GetMcpPorts();
         FOrvOutlinerPanelPorts GetOutlinerPorts();
-        FOrvScriptBridgePorts GetScriptBridgePorts();
-        FOrvWebPanelSessionPorts GetWebPanelSessionPorts();
         /** Tells every live outliner panel that the editor's world went, or that a new one came. */
         void ForwardMapChange(bool bWorldTornDown);
 
@@ -117,21 +110,13 @@ namespace OrvWebBridge
 #endif
         FOrvUnrealWebPanel WebPanel;
         FOrvWebPanelService WebPanelService{WebPanel, Log};
-        FOrvUnrealCatalogAccount Account;
-        FOrvUnrealBrowserCookies BrowserCookies;
-        FOrvUnrealBrowserWindows BrowserWindows;
-        FOrvWebPanelSession WebPanelSession{GetWebPanelSessionPorts(), FOrvCatalogSite::Orvessa()};
-        FOrvAccountEventRelay AccountEventRelay{WebPanelSession, Log};
-        FOrvScriptBridge ScriptBridge{GetScriptBridgePorts()};
         FOrvUnrealEditorUi EditorUi{Handles};
         FOrvUnrealHttpServerModule HttpServer;
 
         TUniquePtr<FOrvMcpHandler> McpHandler;
         TUniquePtr<FOrvMcpServer> McpServer;
-
-        /** The page's "OrvBridge" and the account's notifications, while the catalogue panel is open. */
-        UOrvJSBridge* JSBridge = nullptr;
-        TUniquePtr<FOrvUnrealAccountEvents> AccountEvents;
+        /** Goes before the adapters it uses (the panel, the catalogue API, the log). */
+        TUniquePtr<FOrvCatalogPanel> CatalogPanel;
 
         TArray<TWeakPtr<SOrvOutlinerPanel>> OutlinerPanels;
         FDelegateHandle MapChangedHandle;

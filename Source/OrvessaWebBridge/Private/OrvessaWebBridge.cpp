@@ -1,6 +1,5 @@
 #include "OrvessaWebBridge.h"
 
-#include "OrvCatalogBrowser.h"
 #include "OrvComposition.h"
 #include "OrvOutlinerPanel.h"
 #include "OrvessaWebBridgeStyle.h"
@@ -51,6 +50,11 @@ FOrvessaWebBridgeModule* FOrvessaWebBridgeModule::GetLoaded()
     return FModuleManager::GetModulePtr<FOrvessaWebBridgeModule>("OrvessaWebBridge");
 }
 
+FOrvScriptBridge* FOrvessaWebBridgeModule::GetScriptBridge()
+{
+    return Composition ? &Composition->GetScriptBridge() : nullptr;
+}
+
 void FOrvessaWebBridgeModule::NavigateWebPanel(const FString& Url)
 {
     if (Composition)
@@ -69,23 +73,10 @@ void FOrvessaWebBridgeModule::ExecuteJavaScript(const FString& Script)
 
 void FOrvessaWebBridgeModule::SetCatalogBrowser(TSharedPtr<SWebBrowser> Browser)
 {
-    if (!Composition)
+    if (Composition)
     {
-        return;
+        Composition->SetCatalogBrowser(MoveTemp(Browser));
     }
-    if (Browser.IsValid())
-    {
-        Composition->OpenCatalogPanel(Browser.ToSharedRef());
-    }
-    else
-    {
-        Composition->CloseCatalogPanel();
-    }
-}
-
-FOrvScriptBridge* FOrvessaWebBridgeModule::GetScriptBridge()
-{
-    return Composition ? &Composition->GetScriptBridge() : nullptr;
 }
 
 void FOrvessaWebBridgeModule::PluginButtonClicked()
@@ -173,7 +164,7 @@ TSharedRef<SDockTab> FOrvessaWebBridgeModule::SpawnCatalogTab(const FSpawnTabArg
         [
             SNew(SVerticalBox)
             + SVerticalBox::Slot().AutoHeight()[SNew(SBox)]
-            + SVerticalBox::Slot().FillHeight(1.0f)[SNew(SOrvCatalogBrowser)]
+            + SVerticalBox::Slot().FillHeight(1.0f)[Composition->MakeCatalogBrowser()]
         ];
     // clang-format on
 }

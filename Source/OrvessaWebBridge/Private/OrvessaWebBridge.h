@@ -15,8 +15,8 @@ namespace OrvWebBridge
 {
     class FOrvComposition;
     class FOrvModuleLifecycle;
-    class FOrvScriptBridge;
     class FOrvUnrealModuleHost;
+    class FOrvScriptBridge;
 } // namespace OrvWebBridge
 
 /**
@@ -36,6 +36,9 @@ public:
     /** The loaded module, or null (during shut-down, or before it loads). */
     static FOrvessaWebBridgeModule* GetLoaded();
 
+    /** The script bridge the page's "OrvBridge" calls reach; null while the module is not started. */
+    OrvWebBridge::FOrvScriptBridge* GetScriptBridge();
+
     // Services other parts reach through the module.
     /** Loads Url in the catalogue panel, or only warns while the panel is closed. */
     void NavigateWebPanel(const FString& Url);
@@ -43,8 +46,6 @@ public:
     void ExecuteJavaScript(const FString& Script);
     /** The catalogue tab's browser, once the tab has made it; null when the tab closes. */
     void SetCatalogBrowser(TSharedPtr<SWebBrowser> Browser);
-    /** The script bridge the page's "OrvBridge" calls reach; null while the module is not started. */
-    OrvWebBridge::FOrvScriptBridge* GetScriptBridge();
 
     // Command and menu actions.
     /** OpenPluginWindow: opens or focuses the "Orv Catalog" tab. */

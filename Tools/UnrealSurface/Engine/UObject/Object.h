@@ -25,12 +25,12 @@ public:
 class UObjectBaseUtility : public UObjectBase
 {
 public:
-    FString GetName() const;
-    FString GetPathName(const UObject* StopOuter = nullptr) const;
-
     /** Keeps the object (and what it holds) from garbage collection until RemoveFromRoot. */
     void AddToRoot();
     void RemoveFromRoot();
+
+    FString GetName() const;
+    FString GetPathName(const UObject* StopOuter = nullptr) const;
 };
 
 class UObject : public UObjectBaseUtility

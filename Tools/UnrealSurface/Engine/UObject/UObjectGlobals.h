@@ -27,8 +27,7 @@ UObject* StaticLoadObject(UClass* Class, UObject* InOuter, const TCHAR* Name, co
 UPackage* GetTransientPackage();
 
 /**
- * A new object of class T in Outer, with a generated name. The engine's default Outer is the transient
- * package (cast to UObject*); declared without it, so a caller names the outer. Only the garbage collector
- * frees it: keep it referenced (AddToRoot) while it is used.
+ * A new object of class T in Outer (by default the transient package), with a generated name. Only the
+ * garbage collector frees it: keep it referenced (AddToRoot) while it is used.
  */
-template <class T> T* NewObject(UObject* Outer);
+template <class T> T* NewObject(UObject* Outer = (UObject*)GetTransientPackage());
