@@ -7,7 +7,10 @@
 #include "AssetRegistry/AssetRegistryModule.h"
 #include "AssetRegistry/IAssetRegistry.h"
 #include "Engine/StaticMesh.h"
+#include "Materials/MaterialInstanceConstant.h"
 #include "Modules/ModuleManager.h"
+#include "UObject/MetaData.h"
+#include "UObject/Package.h"
 #include "UObject/SoftObjectPath.h"
 
 namespace OrvWebBridge
@@ -48,5 +51,31 @@ namespace OrvWebBridge
         const FSoftObjectPath ObjectPath(
             FOrvUnrealConversions::ToFString(Asset.PackageName + "." + Asset.AssetName));
         return Handles.ToMeshRef(Cast<UStaticMesh>(ObjectPath.TryLoad()));
+    }
+
+    std::optional<std::string>
+    FOrvUnrealAssetRegistry::LoadMaterialInstanceMetaData(const FOrvAssetData& Asset, std::string_view Key)
+    {
+        const FSoftObjectPath ObjectPath(
+            FOrvUnrealConversions::ToFString(Asset.PackageName + "." + Asset.AssetName));
+        const UMaterialInstanceConstant* Material = Cast<UMaterialInstanceConstant>(ObjectPath.TryLoad());
+        if (!Material)
+        {
+            return std::nullopt;
+        }
+#if WITH_METADATA
+        // Since 5.6 a package's metadata is an FMetaData held by reference. The value may be stored for
+        // the material itself or for its package as a whole; the material's own value wins.
+        FMetaData& MetaData = Material->GetPackage()->GetMetaData();
+        const FName KeyName(FOrvUnrealConversions::ToFString(Key));
+        const FString* Value = MetaData.FindValue(Material, KeyName);
+        if (!Value)
+        {
+            Value = MetaData.RootMetaDataMap.Find(KeyName);
+        }
+        return Value ? FOrvUnrealConversions::ToUtf8(*Value) : std::string();
+#else
+        return std::string();
+#endif
     }
 } // namespace OrvWebBridge

@@ -3,6 +3,7 @@
 #include "Unreal/OrvUnrealConversions.h"
 #include "Unreal/OrvUnrealHandles.h"
 
+#include "Engine/AssetUserData.h"
 #include "Engine/StaticMesh.h"
 // The import module's asset user data class (module OrvImport; it must export StaticClass).
 #include "OrvProductData.h"
@@ -47,5 +48,32 @@ namespace OrvWebBridge
             return std::nullopt;
         }
         return FOrvProductTag{FOrvUnrealConversions::ToUtf8(Tag->ProductID), Tag->IsValid()};
+    }
+
+    std::optional<std::vector<FOrvAssetUserData>>
+    FOrvUnrealStaticMeshes::GetAssetUserData(FOrvMeshRef Mesh) const
+    {
+        const UStaticMesh* Resolved = Handles.ResolveMesh(Mesh);
+        const TArray<UAssetUserData*>* UserData = Resolved ? Resolved->GetAssetUserDataArray() : nullptr;
+        if (!UserData)
+        {
+            return std::nullopt;
+        }
+        // The array may hold null entries (a removed user data class): they have no class to name.
+        std::vector<FOrvAssetUserData> Entries;
+        Entries.reserve(static_cast<size_t>(UserData->Num()));
+        for (const UAssetUserData* Entry : *UserData)
+        {
+            FOrvAssetUserData Converted;
+            Converted.ClassName =
+                Entry ? FOrvUnrealConversions::ToUtf8(Entry->GetClass()->GetName()) : "None";
+            if (const UOrvProductData* Tag = Cast<UOrvProductData>(Entry))
+            {
+                Converted.ProductData =
+                    FOrvProductTag{FOrvUnrealConversions::ToUtf8(Tag->ProductID), Tag->IsValid()};
+            }
+            Entries.push_back(std::move(Converted));
+        }
+        return Entries;
     }
 } // namespace OrvWebBridge
