@@ -28,10 +28,7 @@ namespace OrvWebBridge
         Assets.reserve(static_cast<size_t>(Found.Num()));
         for (const FAssetData& Data : Found)
         {
-            Assets.push_back(FOrvAssetData{FOrvUnrealConversions::ToUtf8(Data.PackageName.ToString()),
-                                           FOrvUnrealConversions::ToUtf8(Data.PackagePath.ToString()),
-                                           FOrvUnrealConversions::ToUtf8(Data.AssetName.ToString()),
-                                           FOrvUnrealConversions::ToUtf8(Data.AssetClassPath.ToString())});
+            Assets.push_back(FOrvUnrealConversions::ToOrvAssetData(Data));
         }
         return Assets;
     }

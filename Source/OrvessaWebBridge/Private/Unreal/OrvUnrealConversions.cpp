@@ -1,5 +1,6 @@
 #include "Unreal/OrvUnrealConversions.h"
 
+#include "AssetRegistry/AssetData.h"
 #include "Containers/StringConv.h"
 
 #include <cstring>
@@ -73,5 +74,11 @@ namespace OrvWebBridge
             std::memcpy(static_cast<void*>(Out.data()), Pixels.GetData(),
                         static_cast<size_t>(Pixels.Num()) * sizeof(FColor));
         }
+    }
+
+    FOrvAssetData FOrvUnrealConversions::ToOrvAssetData(const FAssetData& Asset)
+    {
+        return FOrvAssetData{ToUtf8(Asset.PackageName.ToString()), ToUtf8(Asset.PackagePath.ToString()),
+                             ToUtf8(Asset.AssetName.ToString()), ToUtf8(Asset.AssetClassPath.ToString())};
     }
 } // namespace OrvWebBridge

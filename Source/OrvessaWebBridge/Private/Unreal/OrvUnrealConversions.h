@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+struct FAssetData;
+
 namespace OrvWebBridge
 {
     /**
@@ -34,5 +36,8 @@ namespace OrvWebBridge
 
         /** Pixels copied as they lie in memory: both types are B, G, R, A bytes. */
         static void ToOrvColors(const TArray<FColor>& Pixels, std::vector<FOrvColor>& Out);
+
+        /** A registry entry's names, its class as the full class path ("/Script/Engine.StaticMesh"). */
+        static FOrvAssetData ToOrvAssetData(const FAssetData& Asset);
     };
 } // namespace OrvWebBridge
