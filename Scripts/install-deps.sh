@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Installs what building, running and testing orv-host needs on Debian 12 (run as root).
+# Installs what building, running and testing orv-host needs on Debian 12 (run as root), and what the
+# Unreal-side checks compile with (clang for the syntax check, mingw-w64 for the core's Windows build).
 set -euo pipefail
 
 packages=(
@@ -7,6 +8,7 @@ packages=(
     rapidjson-dev libboost1.81-dev libturbojpeg0-dev libcli11-dev
     libgtest-dev libgmock-dev libbenchmark-dev
     clang-format wrk
+    clang mingw-w64
 )
 missing=()
 for package in "${packages[@]}"; do

@@ -37,8 +37,9 @@ TEST_F(FOrvServeSmartPanelTest, ViewportSelectionByNameOrUniqueLabelDrivesThePan
 {
     EXPECT_EQ(Console.Execute("autodetect ON"), "Auto-Detect is on.\n");
 
-    EXPECT_EQ(Console.Execute("viewport-select sofa"), "Viewport selection: Sofa (StaticMeshActor_15).\nPanel: " +
-                                                           std::string(Site) + "/go/product/ATB-SF-3300\n");
+    EXPECT_EQ(Console.Execute("viewport-select sofa"),
+              "Viewport selection: Sofa (StaticMeshActor_15).\nPanel: " + std::string(Site) +
+                  "/go/product/ATB-SF-3300\n");
     const std::string Ambiguous = Console.Execute("viewport-select Sofa \"Dining Chair\"");
     EXPECT_TRUE(Ambiguous.starts_with("\"Dining Chair\" names 4 actors: StaticMeshActor_3 ")) << Ambiguous;
     EXPECT_EQ(Editor.GetSelectedActors().size(), 1u) << "a refused command leaves the selection alone";

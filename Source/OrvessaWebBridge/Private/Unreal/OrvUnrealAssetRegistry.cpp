@@ -9,9 +9,11 @@
 #include "Engine/StaticMesh.h"
 #include "Materials/MaterialInstanceConstant.h"
 #include "Modules/ModuleManager.h"
+#include "Templates/Casts.h"
 #include "UObject/MetaData.h"
 #include "UObject/Package.h"
 #include "UObject/SoftObjectPath.h"
+#include "UObject/UObjectGlobals.h"
 
 namespace OrvWebBridge
 {
@@ -64,7 +66,7 @@ namespace OrvWebBridge
         // Since 5.6 a package's metadata is an FMetaData held by reference. The value may be stored for
         // the material itself or for its package as a whole; the material's own value wins.
         FMetaData& MetaData = Material->GetPackage()->GetMetaData();
-        const FName KeyName(FOrvUnrealConversions::ToFString(Key));
+        const FName KeyName(*FOrvUnrealConversions::ToFString(Key));
         const FString* Value = MetaData.FindValue(Material, KeyName);
         if (!Value)
         {

@@ -1,12 +1,11 @@
 #include "Unreal/OrvUnrealStaticMeshes.h"
 
+#include "Unreal/Closed/OrvClosedProductTag.h"
 #include "Unreal/OrvUnrealConversions.h"
 #include "Unreal/OrvUnrealHandles.h"
 
 #include "Engine/AssetUserData.h"
 #include "Engine/StaticMesh.h"
-// The import module's asset user data class (module OrvImport; it must export StaticClass).
-#include "OrvProductData.h"
 
 namespace OrvWebBridge
 {
@@ -36,18 +35,9 @@ namespace OrvWebBridge
 
     std::optional<FOrvProductTag> FOrvUnrealStaticMeshes::GetProductTag(FOrvMeshRef Mesh) const
     {
+        // The tag is the maker's import module's; without that module, no mesh has one.
         UStaticMesh* Resolved = Handles.ResolveMesh(Mesh);
-        if (!Resolved)
-        {
-            return std::nullopt;
-        }
-        const UOrvProductData* Tag =
-            Cast<UOrvProductData>(Resolved->GetAssetUserDataOfClass(UOrvProductData::StaticClass()));
-        if (!Tag)
-        {
-            return std::nullopt;
-        }
-        return FOrvProductTag{FOrvUnrealConversions::ToUtf8(Tag->ProductID), Tag->IsValid()};
+        return Resolved ? ReadClosedProductTag(*Resolved) : std::nullopt;
     }
 
     std::optional<std::vector<FOrvAssetUserData>>
@@ -62,16 +52,12 @@ namespace OrvWebBridge
         // The array may hold null entries (a removed user data class): they have no class to name.
         std::vector<FOrvAssetUserData> Entries;
         Entries.reserve(static_cast<size_t>(UserData->Num()));
-        for (const UAssetUserData* Entry : *UserData)
+        for (UAssetUserData* Entry : *UserData)
         {
             FOrvAssetUserData Converted;
             Converted.ClassName =
                 Entry ? FOrvUnrealConversions::ToUtf8(Entry->GetClass()->GetName()) : "None";
-            if (const UOrvProductData* Tag = Cast<UOrvProductData>(Entry))
-            {
-                Converted.ProductData =
-                    FOrvProductTag{FOrvUnrealConversions::ToUtf8(Tag->ProductID), Tag->IsValid()};
-            }
+            Converted.ProductData = ReadClosedProductTag(Entry);
             Entries.push_back(std::move(Converted));
         }
         return Entries;
