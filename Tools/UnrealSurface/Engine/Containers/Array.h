@@ -35,6 +35,16 @@ public:
     /** 5.4 replaced the bool bAllowShrinking parameter with EAllowShrinking (the bool form is deprecated). */
     void RemoveAt(SizeType Index);
 
+    /** Removes every element the predicate answers true for; returns how many went. */
+    template <class PredicateClass>
+    requires(std::is_invocable_r_v<bool, const PredicateClass&, const ElementType&>) SizeType
+        RemoveAll(const PredicateClass& Predicate)
+    {
+        return 0;
+    }
+    /** Empties the array and keeps its allocation. */
+    void Reset(SizeType NewSize = 0);
+
     ElementType* begin();
     ElementType* end();
     const ElementType* begin() const;

@@ -35,6 +35,8 @@ public:
     ValueType& FindOrAdd(KeyType&& Key);
 
     int32 Remove(const KeyType& InKey);
+    /** Empties the map and keeps its allocation. */
+    void Reset();
     bool RemoveAndCopyValue(const KeyType& Key, ValueType& OutRemovedValue);
 
     ElementType* begin();

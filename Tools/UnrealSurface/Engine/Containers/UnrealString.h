@@ -31,5 +31,8 @@ public:
     bool IsEmpty() const;
 
     bool operator==(const FString& Other) const; // ignores case, as the engine's does
+
+    /** Joins two path parts with one "/" between them. */
+    friend FString operator/(const FString& Lhs, const FString& Rhs);
     friend uint32 GetTypeHash(const FString& Text);
 };

@@ -169,3 +169,7 @@ public:
     typedef TMulticastDelegate<void(P1, P2)> DelegateName;
 #define DECLARE_MULTICAST_DELEGATE_ThreeParams(DelegateName, P1, P2, P3)                                     \
     typedef TMulticastDelegate<void(P1, P2, P3)> DelegateName;
+
+// Delegates/DelegateCombinations.h declares these two for the whole engine.
+DECLARE_DELEGATE(FSimpleDelegate)
+DECLARE_MULTICAST_DELEGATE(FSimpleMulticastDelegate)

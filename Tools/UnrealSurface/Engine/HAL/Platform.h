@@ -23,7 +23,9 @@ using WIDECHAR = wchar_t;
 using TCHAR = WIDECHAR;
 using UTF8CHAR = char8_t; // [unconf] the engine's own 8-bit code unit type; only its size matters here
 
-#define TEXT(Literal) L##Literal
+// Pasted through a second macro, as in the engine, so TEXT(LOCTEXT_NAMESPACE) expands the name first.
+#define ORV_SURFACE_TEXT_PASTE(Literal) L##Literal
+#define TEXT(Literal) ORV_SURFACE_TEXT_PASTE(Literal)
 
 #define FORCEINLINE inline
 #define DLLEXPORT

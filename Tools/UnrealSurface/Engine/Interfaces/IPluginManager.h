@@ -14,6 +14,8 @@ class IPlugin
 public:
     virtual ~IPlugin();
     virtual const FPluginDescriptor& GetDescriptor() const = 0;
+    /** The folder that holds the plugin's descriptor. */
+    virtual FString GetBaseDir() const = 0;
 };
 
 class IPluginManager

@@ -11,4 +11,7 @@ class FPaths
 public:
     /** The project's folder, relative to the executable, ending in a slash. */
     static FString ProjectDir();
+
+    /** The path made absolute (relative paths are taken from the executable's folder). */
+    static FString ConvertRelativePathToFull(const FString& InPath);
 };

@@ -5,6 +5,7 @@
 // Docs (by URL scheme):
 //   https://dev.epicgames.com/documentation/en-us/unreal-engine/API/Runtime/Core/TSharedPtr
 //   https://dev.epicgames.com/documentation/en-us/unreal-engine/API/Runtime/Core/TSharedRef
+//   https://dev.epicgames.com/documentation/en-us/unreal-engine/API/Runtime/Core/TWeakPtr
 
 #include "HAL/Platform.h"
 
@@ -64,6 +65,29 @@ public:
     ObjectType& operator*() const;
     /** Checks (in the engine) that the pointer is valid. */
     TSharedRef<ObjectType, Mode> ToSharedRef() const;
+    void Reset();
+    /** Whether this is the only shared reference to the object. */
+    bool IsUnique() const;
+};
+
+/** Does not keep the object alive; Pin() gives a shared pointer that is null once it is gone. */
+template <class ObjectType, ESPMode Mode = ESPMode::ThreadSafe> class TWeakPtr
+{
+public:
+    TWeakPtr();
+    TWeakPtr(std::nullptr_t);
+    template <class OtherType>
+    requires(std::is_convertible_v<OtherType*, ObjectType*>)
+        TWeakPtr(const TSharedRef<OtherType, Mode>& Other);
+    template <class OtherType>
+    requires(std::is_convertible_v<OtherType*, ObjectType*>)
+        TWeakPtr(const TSharedPtr<OtherType, Mode>& Other);
+    TWeakPtr(const TWeakPtr& Other);
+    TWeakPtr& operator=(const TWeakPtr& Other);
+    ~TWeakPtr();
+
+    TSharedPtr<ObjectType, Mode> Pin() const;
+    bool IsValid() const;
     void Reset();
 };
 

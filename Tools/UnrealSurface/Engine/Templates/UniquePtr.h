@@ -42,4 +42,7 @@ public:
 };
 
 template <typename T, typename... ArgTypes>
-requires(std::is_constructible_v<T, ArgTypes...>) TUniquePtr<T> MakeUnique(ArgTypes&&... Args);
+requires(std::is_constructible_v<T, ArgTypes...>) TUniquePtr<T> MakeUnique(ArgTypes&&... Args)
+{
+    return TUniquePtr<T>(); // a body because an argument may be a lambda (its type has no linkage)
+}

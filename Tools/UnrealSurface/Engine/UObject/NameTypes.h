@@ -7,11 +7,20 @@
 #include "Containers/UnrealString.h"
 #include "HAL/Platform.h"
 
+/** The names the engine predefines; only NAME_None is used here. */
+enum EName : uint32
+{
+    NAME_None = 0,
+};
+
 class FName
 {
 public:
     FName();
+    FName(EName Name);
     FName(const TCHAR* Name);
+    /** Names from 8-bit text (the core's tables hold char literals). */
+    FName(const ANSICHAR* Name);
 
     FString ToString() const;
 

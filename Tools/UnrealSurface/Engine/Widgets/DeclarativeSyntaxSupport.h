@@ -26,6 +26,19 @@ template <typename WidgetType> struct TSlateBaseNamedArgs
     WidgetArgsType& ToolTipText(const TAttribute<FText>& InToolTipText);
     WidgetArgsType& Visibility(const TAttribute<EVisibility>& InVisibility);
     WidgetArgsType& IsEnabled(const TAttribute<bool>& InIsEnabled);
+
+    // The engine declares these three as attributes, so each also takes a getter (Name_Lambda).
+#define ORV_SURFACE_BASE_ATTRIBUTE_LAMBDA(AttrType, AttrName)                                                \
+    template <typename FunctorType>                                                                          \
+    requires(std::is_invocable_r_v<AttrType, std::decay_t<FunctorType>&>)                                    \
+        WidgetArgsType& AttrName##_Lambda(FunctorType&& InFunctor)                                           \
+    {                                                                                                        \
+        return *static_cast<WidgetArgsType*>(this);                                                          \
+    }
+    ORV_SURFACE_BASE_ATTRIBUTE_LAMBDA(FText, ToolTipText)
+    ORV_SURFACE_BASE_ATTRIBUTE_LAMBDA(EVisibility, Visibility)
+    ORV_SURFACE_BASE_ATTRIBUTE_LAMBDA(bool, IsEnabled)
+#undef ORV_SURFACE_BASE_ATTRIBUTE_LAMBDA
 };
 
 #define SLATE_BEGIN_ARGS(WidgetType)                                                                         \
@@ -65,6 +78,13 @@ public:                                                                         
 #define SLATE_EVENT(DelegateName, EventName)                                                                 \
     DelegateName _##EventName;                                                                               \
     WidgetArgsType& EventName(const DelegateName& InDelegate);                                               \
+    /* EventName(this, &SMyWidget::Handler): bound to the widget through its shared pointer (CreateSP). */   \
+    template <typename... ArgTypes>                                                                          \
+    requires(sizeof...(ArgTypes) >= 2 && ::OrvSurface::CCreateSP<DelegateName, ArgTypes...>) WidgetArgsType& \
+    EventName(ArgTypes&&... Args)                                                                            \
+    {                                                                                                        \
+        return *this;                                                                                        \
+    }                                                                                                        \
     ORV_SURFACE_EVENT_SETTER(DelegateName, EventName, Lambda)                                                \
     ORV_SURFACE_EVENT_SETTER(DelegateName, EventName, Raw)                                                   \
     ORV_SURFACE_EVENT_SETTER(DelegateName, EventName, SP)                                                    \
