@@ -2,6 +2,7 @@
 
 #include "AssetRegistry/AssetData.h"
 #include "Containers/StringConv.h"
+#include "Input/Events.h"
 
 #include <cstring>
 
@@ -80,5 +81,17 @@ namespace OrvWebBridge
     {
         return FOrvAssetData{ToUtf8(Asset.PackageName.ToString()), ToUtf8(Asset.PackagePath.ToString()),
                              ToUtf8(Asset.AssetName.ToString()), ToUtf8(Asset.AssetClassPath.ToString())};
+    }
+
+    FOrvKeyEvent FOrvUnrealConversions::ToOrvKeyEvent(const FKeyEvent& Event)
+    {
+        FOrvKeyEvent Converted;
+        Converted.KeyName = ToUtf8(Event.GetKey().GetFName().ToString());
+        Converted.KeyCode = Event.GetKeyCode();
+        Converted.Character = Event.GetCharacter();
+        Converted.bAltDown = Event.IsLeftAltDown() || Event.IsRightAltDown();
+        Converted.bControlDown = Event.IsControlDown();
+        Converted.bShiftDown = Event.IsShiftDown();
+        return Converted;
     }
 } // namespace OrvWebBridge
