@@ -7,7 +7,7 @@ packages=(
     g++ cmake ninja-build pkg-config
     rapidjson-dev libboost1.81-dev libturbojpeg0-dev libcli11-dev
     libgtest-dev libgmock-dev libbenchmark-dev
-    clang-format wrk
+    clang-format wrk chromium
     clang mingw-w64
 )
 missing=()
