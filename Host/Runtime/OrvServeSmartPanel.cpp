@@ -43,9 +43,9 @@ namespace OrvWebBridge
 
     FOrvServeSmartPanel::FOrvServeSmartPanel(FOrvMemoryEditor& InEditor, IOrvWebPanel& InPanel,
                                              IOrvLog& InLog, std::string SiteBaseUrl)
-        : Editor(InEditor), Panel(InPanel), Log(InLog), Clipboard(InPanel),
+        : Editor(InEditor), Panel(InPanel), Log(InLog), Recorder(InPanel), Clipboard(InPanel),
           SmartPanel({InEditor.Selection(), InEditor.World(), InEditor.Meshes(), InEditor.Assets(),
-                      InEditor.ContentBrowser(), InEditor.WidgetFocus(), InPanel, Clipboard, InLog},
+                      InEditor.ContentBrowser(), InEditor.WidgetFocus(), Recorder, Clipboard, InLog},
                      std::move(SiteBaseUrl))
     {
         // The editor calls these as the engine calls the module's listeners: after every change.
@@ -66,10 +66,12 @@ namespace OrvWebBridge
     {
         Console.AddCommand("viewport-select", "viewport-select [ACTOR...]",
                            "Select actors in the viewport by name or label (none: clear the selection).",
-                           [this](const auto& Args) { return ViewportSelect(Args); });
+                           [this](const auto& Args)
+                           { return Navigating([&] { return ViewportSelect(Args); }); });
         Console.AddCommand("browser-select", "browser-select [ASSET...]",
                            "Select assets in the Content Browser by name or object path (none: clear).",
-                           [this](const auto& Args) { return BrowserSelect(Args); });
+                           [this](const auto& Args)
+                           { return Navigating([&] { return BrowserSelect(Args); }); });
         Console.AddCommand("focus", "focus viewport|browser",
                            "Give the keyboard focus to a panel (for Alt+R).",
                            [this](const auto& Args) { return Focus(Args); });
@@ -77,7 +79,7 @@ namespace OrvWebBridge
                            "Tick or clear the catalogue panel's Auto-Detect check box.",
                            [this](const auto& Args) { return AutoDetect(Args); });
         Console.AddCommand("alt-r", "alt-r", "Press Alt+R: show the selected product or finish in the panel.",
-                           [this](const auto&) { return AltR(); });
+                           [this](const auto&) { return Navigating([this] { return AltR(); }); });
         Console.AddCommand("copy-url", "copy-url", "Press the panel's Copy URL button.",
                            [this](const auto&) { return CopyUrl(); });
     }
@@ -114,8 +116,7 @@ namespace OrvWebBridge
             Editor.Selection().SelectActor(Actor);
         }
         Editor.Selection().NoteSelectionChange();
-        return (Names.empty() ? "Viewport selection cleared." : "Viewport selection: " + Names + ".") + "\n" +
-               PanelStatus();
+        return Names.empty() ? "Viewport selection cleared." : "Viewport selection: " + Names + ".";
     }
 
     std::string FOrvServeSmartPanel::BrowserSelect(const std::vector<std::string>& Args)
@@ -156,9 +157,8 @@ namespace OrvWebBridge
             Names += (Names.empty() ? "" : ", ") + Found->AssetName;
         }
         Editor.SetContentBrowserSelection(std::move(Selected));
-        return (Names.empty() ? "Content Browser selection cleared."
-                              : "Content Browser selection: " + Names + ".") +
-               "\n" + PanelStatus();
+        return Names.empty() ? "Content Browser selection cleared."
+                             : "Content Browser selection: " + Names + ".";
     }
 
     std::string FOrvServeSmartPanel::Focus(const std::vector<std::string>& Args)
@@ -184,7 +184,7 @@ namespace OrvWebBridge
         if (Args.size() == 1 &&
             (FOrvStrings::EqualsIgnoreCase(Args[0], "on") || FOrvStrings::EqualsIgnoreCase(Args[0], "off")))
         {
-            SmartPanel.SetAutoDetect(FOrvStrings::EqualsIgnoreCase(Args[0], "on"));
+            SetAutoDetect(FOrvStrings::EqualsIgnoreCase(Args[0], "on"));
         }
         else if (!Args.empty())
         {
@@ -202,7 +202,7 @@ namespace OrvWebBridge
         Key.Character = 'r';
         Key.bAltDown = true;
         FOrvInputKeyPredicate::HandleKeyDown(Key, Log, &SmartPanel);
-        return PanelStatus();
+        return "Alt+R pressed.";
     }
 
     std::string FOrvServeSmartPanel::CopyUrl()
@@ -215,13 +215,30 @@ namespace OrvWebBridge
         return "Copied \"" + Clipboard.GetLastCopied() + "\" to the panel page's clipboard.";
     }
 
-    std::string FOrvServeSmartPanel::PanelStatus() const
+    std::string FOrvServeSmartPanel::Navigating(const std::function<std::string()>& Command)
     {
+        Recorder.LastLoaded.clear();
+        std::string Answer = Command();
         if (!Panel.IsOpen())
         {
-            return "Panel: not open (no page is connected).";
+            return Answer + "\nPanel: not open (no page is connected).";
         }
-        const std::string Url = Panel.GetUrl();
-        return "Panel: " + (Url.empty() ? std::string("no page yet") : Url);
+        return Answer + (Recorder.LastLoaded.empty() ? "\nPanel: unchanged."
+                                                     : "\nPanel: opens " + Recorder.LastLoaded);
+    }
+
+    void FOrvServeSmartPanel::SetAutoDetect(bool bEnabled)
+    {
+        SmartPanel.SetAutoDetect(bEnabled);
+        ++Revision;
+        // The page's check box follows, as the tab's check box follows the module's flag.
+        Panel.ExecuteJavascript("window.__orv_toolbar&&window.__orv_toolbar.state(" + GetToolbarState() +
+                                ");");
+    }
+
+    std::string FOrvServeSmartPanel::GetToolbarState() const
+    {
+        return FOrvStrings::Printf("{\"autoDetect\":%s,\"revision\":%d}",
+                                   SmartPanel.IsAutoDetectEnabled() ? "true" : "false", Revision);
     }
 } // namespace OrvWebBridge

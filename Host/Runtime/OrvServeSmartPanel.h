@@ -4,6 +4,7 @@
 #include "Host/Runtime/OrvHostClipboard.h"
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -31,8 +32,37 @@ namespace OrvWebBridge
         void AddCommands(FOrvServeConsole& Console);
 
         FOrvSmartPanel& GetSmartPanel() { return SmartPanel; }
+        IOrvLog& GetLog() { return Log; }
+
+        /** The "Auto-Detect" check box, from the console or the page: sets the flag and shows it in the page.
+         */
+        void SetAutoDetect(bool bEnabled);
+
+        /** What the page's toolbar shows: {"autoDetect": flag, "revision": how many changes so far}. */
+        std::string GetToolbarState() const;
 
     private:
+        /** The panel as the smart panel drives it, remembering the last page it was told to load. */
+        class FOrvLoadRecorder : public IOrvWebPanel
+        {
+        public:
+            explicit FOrvLoadRecorder(IOrvWebPanel& InPanel) : Panel(InPanel) {}
+
+            bool IsOpen() const override { return Panel.IsOpen(); }
+            void LoadUrl(std::string_view Url) override
+            {
+                LastLoaded = Url;
+                Panel.LoadUrl(Url);
+            }
+            void ExecuteJavascript(std::string_view Script) override { Panel.ExecuteJavascript(Script); }
+            std::string GetUrl() const override { return Panel.GetUrl(); }
+
+            std::string LastLoaded;
+
+        private:
+            IOrvWebPanel& Panel;
+        };
+
         std::string ViewportSelect(const std::vector<std::string>& Args);
         std::string BrowserSelect(const std::vector<std::string>& Args);
         std::string Focus(const std::vector<std::string>& Args);
@@ -40,14 +70,16 @@ namespace OrvWebBridge
         std::string AltR();
         std::string CopyUrl();
 
-        /** What the panel shows now, for the commands that may navigate it. */
-        std::string PanelStatus() const;
+        /** Runs a command that may navigate the panel; its answer says where the panel went. */
+        std::string Navigating(const std::function<std::string()>& Command);
 
         FOrvMemoryEditor& Editor;
         IOrvWebPanel& Panel;
         IOrvLog& Log;
+        FOrvLoadRecorder Recorder;
         FOrvHostClipboard Clipboard;
         FOrvSmartPanel SmartPanel;
+        int Revision = 0;
         std::uint64_t SelectionHandle = 0;
         std::uint64_t AssetSelectionHandle = 0;
     };

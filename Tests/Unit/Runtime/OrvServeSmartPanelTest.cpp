@@ -38,13 +38,15 @@ TEST_F(FOrvServeSmartPanelTest, ViewportSelectionByNameOrUniqueLabelDrivesThePan
     EXPECT_EQ(Console.Execute("autodetect ON"), "Auto-Detect is on.\n");
 
     EXPECT_EQ(Console.Execute("viewport-select sofa"),
-              "Viewport selection: Sofa (StaticMeshActor_15).\nPanel: " + std::string(Site) +
+              "Viewport selection: Sofa (StaticMeshActor_15).\nPanel: opens " + std::string(Site) +
                   "/go/product/ATB-SF-3300\n");
+    EXPECT_EQ(Console.Execute("viewport-select StaticMeshActor_15"),
+              "Viewport selection: Sofa (StaticMeshActor_15).\nPanel: unchanged.\n");
     const std::string Ambiguous = Console.Execute("viewport-select Sofa \"Dining Chair\"");
     EXPECT_TRUE(Ambiguous.starts_with("\"Dining Chair\" names 4 actors: StaticMeshActor_3 ")) << Ambiguous;
     EXPECT_EQ(Editor.GetSelectedActors().size(), 1u) << "a refused command leaves the selection alone";
     EXPECT_EQ(Console.Execute("viewport-select Nobody"),
-              "No actor \"Nobody\" in the level (list shows them).\n");
+              "No actor \"Nobody\" in the level (list shows them).\nPanel: unchanged.\n");
     EXPECT_TRUE(Console.Execute("viewport-select").starts_with("Viewport selection cleared.\n"));
 
     EXPECT_EQ(Panel.Loads, std::vector<std::string>{std::string(Site) + "/go/product/ATB-SF-3300"});
@@ -54,7 +56,8 @@ TEST_F(FOrvServeSmartPanelTest, BrowserSelectionAndAltRWithBrowserFocusShowTheFi
 {
     const std::string Ambiguous = Console.Execute("browser-select SM_Chair");
     EXPECT_EQ(Ambiguous, "\"SM_Chair\" names 2 assets: /Game/ORVESSA/FormaNova/Arco/Meshes/SM_Chair.SM_Chair "
-                         "/Game/ORVESSA/LineaStudio/Riga/Meshes/SM_Chair.SM_Chair; name one of them.\n");
+                         "/Game/ORVESSA/LineaStudio/Riga/Meshes/SM_Chair.SM_Chair; name one of them.\n"
+                         "Panel: unchanged.\n");
     EXPECT_TRUE(Console.Execute("browser-select /game/orvessa/linearstudio/riga/meshes/sm_chair")
                     .starts_with("No asset"));
     EXPECT_TRUE(
@@ -64,7 +67,8 @@ TEST_F(FOrvServeSmartPanelTest, BrowserSelectionAndAltRWithBrowserFocusShowTheFi
     EXPECT_TRUE(Panel.Loads.empty()) << "auto-detect is off";
 
     EXPECT_EQ(Console.Execute("focus BROWSER"), "Keyboard focus: Content Browser.\n");
-    EXPECT_EQ(Console.Execute("alt-r"), "Panel: " + std::string(Site) + "/go/finish/FNV-FIN-0101\n");
+    EXPECT_EQ(Console.Execute("alt-r"),
+              "Alt+R pressed.\nPanel: opens " + std::string(Site) + "/go/finish/FIN-OAK-NAT\n");
     EXPECT_TRUE(
         Log.Contains(EOrvLogVerbosity::Display, "OrvInputProcessor: Alt+R detected! (Key=R, ByChar=0)"));
 
