@@ -141,6 +141,16 @@ namespace OrvWebBridge
         return Parts ? &Parts->Account : nullptr;
     }
 
+    FOrvPanelPage* FOrvHostPanel::GetPage() const
+    {
+        return Parts ? &Parts->Page : nullptr;
+    }
+
+    FOrvPanelServer* FOrvHostPanel::GetServer() const
+    {
+        return Parts ? &Parts->Server : nullptr;
+    }
+
     std::string FOrvHostPanel::GetUrl() const
     {
         return Parts ? "http://127.0.0.1:" + std::to_string(Parts->Server.GetBoundPort()) + "/"

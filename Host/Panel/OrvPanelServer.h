@@ -51,6 +51,9 @@ namespace OrvWebBridge
 
         std::uint32_t GetBoundPort() const;
 
+        /** Adds Script to the one that every HTML page of the panel loads (after the bridge's own). */
+        void AppendPageScript(std::string_view Script) { BridgeScript += Script; }
+
         /** The router, for routes of the site's own backend. Null while stopped. */
         FOrvHostHttpRouter* GetRouter() const { return Router.get(); }
 

@@ -2,6 +2,8 @@
 
 #include "Core/Common/OrvLogging.h"
 #include "Host/Editor/OrvMemoryEditor.h"
+#include "Host/Panel/OrvPanelPage.h"
+#include "Host/Panel/OrvPanelToolbar.h"
 #include "Host/Runtime/OrvHostEventLoop.h"
 
 #include <csignal>
@@ -33,8 +35,10 @@ namespace OrvWebBridge
 
     FOrvServeSession::~FOrvServeSession()
     {
-        // The outliner's panel unregisters from the editor and the loop's timers while both still exist.
+        // The outliner's panel and the smart panel unregister from the editor, the loop's timers and the
+        // catalogue panel while these still exist.
         Outliner.reset();
+        StopSmartPanel();
     }
 
     bool FOrvServeSession::OpenOutliner(const FOrvCatalogSourceOptions& Catalog, std::string& Error)
@@ -72,6 +76,15 @@ namespace OrvWebBridge
             Endpoint.Stop();
             return false;
         }
+        if (PanelOptions)
+        {
+            // Product and finish pages are the panel's own: its origin is the catalogue site.
+            std::string Origin = Panel.GetUrl();
+            Origin.pop_back();
+            SmartPanel = std::make_unique<FOrvServeSmartPanel>(Editor, *Panel.GetPage(), Log, Origin);
+            SmartPanel->AddCommands(Console);
+            PanelToolbar = std::make_unique<FOrvPanelToolbar>(*Panel.GetServer(), *SmartPanel);
+        }
         Signals = std::make_unique<FOrvStopSignals>(Loop, [this](int) { Loop.Stop(); });
         if (Outliner)
         {
@@ -101,6 +114,7 @@ namespace OrvWebBridge
         Loop.Run();
         Input.Stop();
         Signals.reset();
+        StopSmartPanel();
         Panel.Stop();
         Endpoint.Stop();
         if (Editor.IsDirty())
@@ -125,5 +139,12 @@ namespace OrvWebBridge
         std::fwrite(Text.data(), 1, Text.size(), stdout);
         // Tests and other programs read the URL and the console's answers through a pipe.
         std::fflush(stdout);
+    }
+
+    void FOrvServeSession::StopSmartPanel()
+    {
+        // The loop no longer runs, so the toolbar's routes see no request before the panel's server stops.
+        PanelToolbar.reset();
+        SmartPanel.reset();
     }
 } // namespace OrvWebBridge

@@ -5,6 +5,7 @@
 #include "Host/Runtime/OrvHostMcpEndpoint.h"
 #include "Host/Runtime/OrvServeConsole.h"
 #include "Host/Runtime/OrvServeOutliner.h"
+#include "Host/Runtime/OrvServeSmartPanel.h"
 #include "Host/Runtime/OrvStopSignals.h"
 
 #include <cstdint>
@@ -16,6 +17,7 @@
 namespace OrvWebBridge
 {
     class FOrvHostEventLoop;
+    class FOrvPanelToolbar;
     class FOrvMemoryEditor;
     class IOrvImageWrapperModule;
 
@@ -56,6 +58,7 @@ namespace OrvWebBridge
 
     private:
         void OnConsoleLine(const std::string& Line);
+        void StopSmartPanel();
         void Print(const std::string& Text);
 
         FOrvHostEventLoop& Loop;
@@ -67,6 +70,9 @@ namespace OrvWebBridge
         FOrvConsoleInput Input;
         std::unique_ptr<FOrvStopSignals> Signals;
         std::unique_ptr<FOrvServeOutliner> Outliner;
+        std::unique_ptr<FOrvServeSmartPanel>
+            SmartPanel; ///< with the panel: it follows the editor's selection
+        std::unique_ptr<FOrvPanelToolbar> PanelToolbar;
         bool bPrompt = false;
     };
 } // namespace OrvWebBridge
