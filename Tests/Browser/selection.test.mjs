@@ -26,7 +26,8 @@ describe("the catalogue panel follows the editor", () => {
     let Page;
     /** Waits until the panel shows Path with its event stream connected, so the editor can drive it again. */
     const Lands = async (Path) => {
-        await WaitFor(async () => new URL(Page.url()).pathname === Path, `the panel on ${Path}`);
+        const Ready = () => Page.evaluate(() => Boolean(window.ue && window.ue.orvbridge)).catch(() => false);
+        await WaitFor(async () => new URL(Page.url()).pathname === Path && (await Ready()), `the panel on ${Path}`);
         await InstallRecorder(Page);
     };
     /** Waits until the host has logged Line Times times. */
