@@ -3,6 +3,7 @@
 #include "Host/Runtime/OrvBeastHttpServerModule.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -67,6 +68,10 @@ namespace OrvWebBridge
 
         /** Whether Request may have what Access guards. */
         bool IsAllowed(const FOrvHttpRequest& Request, EOrvPanelAccess Access) const;
+
+        /** Answers Verb requests for Path with Answer at once, or with 403 for those Access refuses. */
+        void BindAnswer(std::string_view Path, EOrvHttpVerb Verb, EOrvPanelAccess Access,
+                        std::function<std::unique_ptr<FOrvHttpResponse>(const FOrvHttpRequest&)> Answer);
 
         /** The 403 answer for a request from elsewhere. */
         static std::unique_ptr<FOrvHttpResponse> Forbidden();

@@ -7,7 +7,6 @@
 #include "Core/SmartPanel/OrvInputKeyPredicate.h"
 #include "Host/Panel/OrvPanelServer.h"
 #include "Host/Panel/OrvPanelSite.h"
-#include "Host/Runtime/OrvHostHttpRouter.h"
 #include "Host/Runtime/OrvServeSmartPanel.h"
 
 namespace OrvWebBridge
@@ -71,33 +70,20 @@ namespace OrvWebBridge
     {
         Server.AppendPageScript(MakeScript());
         using EAccess = FOrvPanelServer::EOrvPanelAccess;
-        const auto Bind =
-            [this](std::string_view Path, EOrvHttpVerb Verb, EAccess Access,
-                   std::function<std::unique_ptr<FOrvHttpResponse>(const FOrvHttpRequest&)> Answer)
-        {
-            Server.GetRouter()->BindRoute(
-                Path, Verb,
-                [this, Access, Answer = std::move(Answer)](const FOrvHttpRequest& Request,
-                                                           const FOrvHttpResultCallback& OnComplete)
-                {
-                    OnComplete(Server.IsAllowed(Request, Access) ? Answer(Request)
-                                                                 : FOrvPanelServer::Forbidden());
-                    return true;
-                });
-        };
-        Bind("/__orv/toolbar", EOrvHttpVerb::Get, EAccess::PanelPage,
-             [this](const FOrvHttpRequest&)
-             { return FOrvPanelSite::Respond(200, "application/json", SmartPanel.GetToolbarState()); });
-        Bind("/__orv/toolbar", EOrvHttpVerb::Post, EAccess::PanelCall,
-             [this](const FOrvHttpRequest& Request) { return SetAutoDetect(Request); });
-        Bind("/__orv/copy-url", EOrvHttpVerb::Post, EAccess::PanelCall,
-             [this](const FOrvHttpRequest&)
-             {
-                 SmartPanel.GetSmartPanel().CopyUrl();
-                 return FOrvPanelSite::Respond(204, "text/plain", "");
-             });
-        Bind("/__orv/key", EOrvHttpVerb::Post, EAccess::PanelCall,
-             [this](const FOrvHttpRequest& Request) { return KeyDown(Request); });
+        Server.BindAnswer(
+            "/__orv/toolbar", EOrvHttpVerb::Get, EAccess::PanelPage,
+            [this](const FOrvHttpRequest&)
+            { return FOrvPanelSite::Respond(200, "application/json", SmartPanel.GetToolbarState()); });
+        Server.BindAnswer("/__orv/toolbar", EOrvHttpVerb::Post, EAccess::PanelCall,
+                          [this](const FOrvHttpRequest& Request) { return SetAutoDetect(Request); });
+        Server.BindAnswer("/__orv/copy-url", EOrvHttpVerb::Post, EAccess::PanelCall,
+                          [this](const FOrvHttpRequest&)
+                          {
+                              SmartPanel.GetSmartPanel().CopyUrl();
+                              return FOrvPanelSite::Respond(204, "text/plain", "");
+                          });
+        Server.BindAnswer("/__orv/key", EOrvHttpVerb::Post, EAccess::PanelCall,
+                          [this](const FOrvHttpRequest& Request) { return KeyDown(Request); });
     }
 
     std::unique_ptr<FOrvHttpResponse> FOrvPanelToolbar::SetAutoDetect(const FOrvHttpRequest& Request)
