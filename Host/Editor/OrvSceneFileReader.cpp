@@ -117,7 +117,7 @@ namespace OrvWebBridge
 
             bool ReadAsset(const rapidjson::Value& Asset, const std::string& Place)
             {
-                if (!CheckObject(Asset, Place, {"path", "class", "bounds", "tag"}))
+                if (!CheckObject(Asset, Place, {"path", "class", "bounds", "tag", "metadata"}))
                 {
                     return false;
                 }
@@ -156,12 +156,22 @@ namespace OrvWebBridge
                     {
                         return Fail(Place, "only static meshes have \"bounds\" and \"tag\"");
                     }
+                    FOrvMemoryMetaData MetaData;
+                    if (!ReadNamedTexts(Asset, "metadata", Place, MetaData))
+                    {
+                        return false;
+                    }
                     Editor.AddAsset({Package, std::string(FOrvObjectNames::PackagePath(Package)),
-                                     std::string(FOrvObjectNames::ShortPackageName(Package)), ClassPath});
+                                     std::string(FOrvObjectNames::ShortPackageName(Package)), ClassPath},
+                                    std::move(MetaData));
                     AssetsByPackage.emplace(Key, FOrvSceneAssetEntry{{}, ClassPath, Place});
                     return true;
                 }
 
+                if (FOrvJson::FindField(Asset, "metadata"))
+                {
+                    return Fail(Place, "static meshes take no \"metadata\" (their product tag is \"tag\")");
+                }
                 FOrvMemoryMeshDesc Mesh;
                 Mesh.PackageName = Package;
                 if (!ReadBounds(Asset, Place, Mesh.Bounds) || !ReadTag(Asset, Place, Mesh.Tag))

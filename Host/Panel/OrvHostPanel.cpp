@@ -16,7 +16,6 @@
 #include "Host/Panel/OrvPanelSite.h"
 #include "Host/Panel/OrvPanelWindows.h"
 #include "Host/Runtime/OrvHostEventLoop.h"
-#include "Host/Runtime/OrvHostHttpRouter.h"
 
 #include <fstream>
 #include <sstream>
@@ -106,17 +105,9 @@ namespace OrvWebBridge
         Built->Account.SetEvents(Built->Relay.get());
         if (Options.SiteDir.empty())
         {
-            FOrvPanelServer& Server = Built->Server;
-            Server.GetRouter()->BindRoute(
-                "/oauth/sign-in", EOrvHttpVerb::Post,
-                [&Server](const FOrvHttpRequest& Request, const FOrvHttpResultCallback& OnComplete)
-                {
-                    const bool bAllowed =
-                        Server.IsAllowed(Request, FOrvPanelServer::EOrvPanelAccess::PanelCall);
-                    OnComplete(bAllowed ? FOrvDemoSiteSignIn::Answer(Request.Body)
-                                        : FOrvPanelServer::Forbidden());
-                    return true;
-                });
+            Built->Server.BindAnswer(
+                "/oauth/sign-in", EOrvHttpVerb::Post, FOrvPanelServer::EOrvPanelAccess::PanelCall,
+                [](const FOrvHttpRequest& Request) { return FOrvDemoSiteSignIn::Answer(Request.Body); });
         }
         Parts = std::move(Built);
         return true;
@@ -139,6 +130,16 @@ namespace OrvWebBridge
     IOrvCatalogAccount* FOrvHostPanel::GetAccount() const
     {
         return Parts ? &Parts->Account : nullptr;
+    }
+
+    FOrvPanelPage* FOrvHostPanel::GetPage() const
+    {
+        return Parts ? &Parts->Page : nullptr;
+    }
+
+    FOrvPanelServer* FOrvHostPanel::GetServer() const
+    {
+        return Parts ? &Parts->Server : nullptr;
     }
 
     std::string FOrvHostPanel::GetUrl() const

@@ -1,6 +1,8 @@
 #include "Host/Runtime/OrvServeSession.h"
 
 #include "Host/Editor/OrvMemoryEditor.h"
+#include "Host/Panel/OrvPanelPage.h"
+#include "Host/Panel/OrvPanelToolbar.h"
 #include "Host/Runtime/OrvHostEventLoop.h"
 
 #include <csignal>
@@ -32,8 +34,10 @@ namespace OrvWebBridge
 
     FOrvServeSession::~FOrvServeSession()
     {
-        // The outliner's panel unregisters from the editor and the loop's timers while both still exist.
+        // The outliner's panel and the smart panel unregister from the editor, the loop's timers and the
+        // catalogue panel while these still exist.
         Outliner.reset();
+        StopSmartPanel();
         // The endpoint and the panel stop in the module's shut-down order, if Run did not already.
         Lifecycle.reset();
     }
@@ -65,6 +69,15 @@ namespace OrvWebBridge
             Lifecycle->Shutdown();
             return false;
         }
+        if (PanelOptions)
+        {
+            // Product and finish pages are the panel's own: its origin is the catalogue site.
+            std::string Origin = Panel.GetUrl();
+            Origin.pop_back();
+            SmartPanel = std::make_unique<FOrvServeSmartPanel>(Editor, *Panel.GetPage(), Log, Origin);
+            SmartPanel->AddCommands(Console);
+            PanelToolbar = std::make_unique<FOrvPanelToolbar>(*Panel.GetServer(), *SmartPanel);
+        }
         Signals = std::make_unique<FOrvStopSignals>(Loop, [this](int) { Loop.Stop(); });
         if (Outliner)
         {
@@ -94,6 +107,7 @@ namespace OrvWebBridge
         Loop.Run();
         Input.Stop();
         Signals.reset();
+        StopSmartPanel();
         if (Lifecycle)
         {
             Lifecycle->Shutdown();
@@ -120,5 +134,12 @@ namespace OrvWebBridge
         std::fwrite(Text.data(), 1, Text.size(), stdout);
         // Tests and other programs read the URL and the console's answers through a pipe.
         std::fflush(stdout);
+    }
+
+    void FOrvServeSession::StopSmartPanel()
+    {
+        // The loop no longer runs, so the toolbar's routes see no request before the panel's server stops.
+        PanelToolbar.reset();
+        SmartPanel.reset();
     }
 } // namespace OrvWebBridge

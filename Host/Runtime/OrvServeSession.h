@@ -7,6 +7,7 @@
 #include "Host/Runtime/OrvHostModuleHost.h"
 #include "Host/Runtime/OrvServeConsole.h"
 #include "Host/Runtime/OrvServeOutliner.h"
+#include "Host/Runtime/OrvServeSmartPanel.h"
 #include "Host/Runtime/OrvStopSignals.h"
 
 #include <cstdint>
@@ -18,6 +19,7 @@
 namespace OrvWebBridge
 {
     class FOrvHostEventLoop;
+    class FOrvPanelToolbar;
     class FOrvMemoryEditor;
     class IOrvImageWrapperModule;
 
@@ -60,6 +62,7 @@ namespace OrvWebBridge
 
     private:
         void OnConsoleLine(const std::string& Line);
+        void StopSmartPanel();
         void Print(const std::string& Text);
 
         FOrvHostEventLoop& Loop;
@@ -73,6 +76,9 @@ namespace OrvWebBridge
         FOrvConsoleInput Input;
         std::unique_ptr<FOrvStopSignals> Signals;
         std::unique_ptr<FOrvServeOutliner> Outliner;
+        std::unique_ptr<FOrvServeSmartPanel>
+            SmartPanel; ///< with the panel: it follows the editor's selection
+        std::unique_ptr<FOrvPanelToolbar> PanelToolbar;
         bool bPrompt = false;
     };
 } // namespace OrvWebBridge

@@ -2,12 +2,16 @@
 
 #include "CoreMinimal.h"
 
+#include "Core/Common/OrvConstants.h"
 #include "Core/Mcp/OrvMcpPorts.h"
 #include "Core/Module/OrvGuardedGameThread.h"
 #include "Core/Outliner/OrvOutlinerPanelModel.h"
 #include "Core/Panel/OrvWebPanelService.h"
+#include "Core/SmartPanel/OrvSmartPanel.h"
 #include "Unreal/OrvUnrealActorEditing.h"
 #include "Unreal/OrvUnrealAssetRegistry.h"
+#include "Unreal/OrvUnrealClipboard.h"
+#include "Unreal/OrvUnrealContentBrowser.h"
 #include "Unreal/OrvUnrealEditorUi.h"
 #include "Unreal/OrvUnrealEditorWorld.h"
 #include "Unreal/OrvUnrealEnvironment.h"
@@ -24,6 +28,7 @@
 #include "Unreal/OrvUnrealTransactions.h"
 #include "Unreal/OrvUnrealViewport.h"
 #include "Unreal/OrvUnrealWebPanel.h"
+#include "Unreal/OrvUnrealWidgetFocus.h"
 #if ORV_WITH_CLOSED_MODULES
 #include "Unreal/Closed/OrvUnrealCatalogApi.h"
 #else
@@ -59,6 +64,7 @@ namespace OrvWebBridge
         IOrvLog& GetLog() { return Log; }
         FOrvWebPanelService& GetWebPanelService() { return WebPanelService; }
         FOrvUnrealWebPanel& GetWebPanel() { return WebPanel; }
+        FOrvSmartPanel& GetSmartPanel() { return SmartPanel; }
 
         /** Makes the MCP server and starts it on Port; false, and no server kept, when it cannot listen. */
         bool StartMcpServer(uint32 Port);
@@ -110,6 +116,12 @@ namespace OrvWebBridge
 #endif
         FOrvUnrealWebPanel WebPanel;
         FOrvWebPanelService WebPanelService{WebPanel, Log};
+        FOrvUnrealContentBrowser ContentBrowser;
+        FOrvUnrealWidgetFocus WidgetFocus;
+        FOrvUnrealClipboard Clipboard;
+        FOrvSmartPanel SmartPanel{{Selection, World, Meshes, Assets, ContentBrowser, WidgetFocus,
+                                   WebPanelService.GetPanel(), Clipboard, Log},
+                                  FOrvConstants::CatalogSiteBaseUrl};
         FOrvUnrealEditorUi EditorUi{Handles};
         FOrvUnrealHttpServerModule HttpServer;
 

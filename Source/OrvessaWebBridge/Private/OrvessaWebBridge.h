@@ -14,6 +14,7 @@ struct FAssetData;
 namespace OrvWebBridge
 {
     class FOrvComposition;
+    class FOrvSmartPanel;
     class FOrvModuleLifecycle;
     class FOrvUnrealModuleHost;
     class FOrvScriptBridge;
@@ -46,6 +47,9 @@ public:
     void ExecuteJavaScript(const FString& Script);
     /** The catalogue tab's browser, once the tab has made it; null when the tab closes. */
     void SetCatalogBrowser(TSharedPtr<SWebBrowser> Browser);
+    /** What makes the catalogue panel follow the selection (auto-detect, Alt+R, Copy URL); null while the
+     * module is not started. */
+    OrvWebBridge::FOrvSmartPanel* GetSmartPanel();
 
     // Command and menu actions.
     /** OpenPluginWindow: opens or focuses the "Orv Catalog" tab. */

@@ -69,7 +69,7 @@ namespace OrvWebBridge
             {
                 return false;
             }
-            InputProcessor = MakeShared<FOrvInputProcessor>();
+            InputProcessor = MakeShared<FOrvInputProcessor>(&Module);
             return FSlateApplication::Get().RegisterInputPreProcessor(InputProcessor);
         case EOrvModuleStep::MenuStartupCallback:
             MenuStartupHandle =

@@ -13,6 +13,7 @@
 
 class UClass;
 class UObject;
+class UPackage;
 class UWorld;
 
 class UObjectBase
@@ -31,6 +32,8 @@ public:
 
     FString GetName() const;
     FString GetPathName(const UObject* StopOuter = nullptr) const;
+    /** The package the object lives in. */
+    UPackage* GetPackage() const;
 };
 
 class UObject : public UObjectBaseUtility

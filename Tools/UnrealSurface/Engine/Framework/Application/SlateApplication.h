@@ -39,6 +39,11 @@ public:
     void UnregisterInputPreProcessor(TSharedPtr<IInputProcessor> InputProcessor);
 
     /** The native handle of the best parent for a file dialog: the widget's window, else the main frame. */
+    /** The widget with keyboard focus, or null. Docs:
+     *  https://dev.epicgames.com/documentation/unreal-engine/API/Runtime/Slate/Framework/Application/FSlateApplication/GetKeyboardFocus-?application_version=5.4
+     */
+    virtual TSharedPtr<SWidget> GetKeyboardFocusedWidget() const;
+
     const void*
     FindBestParentWindowHandleForDialogs(const TSharedPtr<SWidget>& InWidget,
                                          const ESlateParentWindowSearchMethod InParentWindowSearchMethod =
