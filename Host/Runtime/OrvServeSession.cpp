@@ -1,5 +1,7 @@
 #include "Host/Runtime/OrvServeSession.h"
 
+#include "Core/Common/OrvUtf8.h"
+
 #include "Host/Editor/OrvMemoryEditor.h"
 #include "Host/Runtime/OrvHostEventLoop.h"
 
@@ -100,7 +102,9 @@ namespace OrvWebBridge
 
     void FOrvServeSession::Print(const std::string& Text)
     {
-        std::fwrite(Text.data(), 1, Text.size(), stdout);
+        // Console answers quote names the user typed; what goes out is valid UTF-8 all the same.
+        const std::string Valid = FOrvUtf8::MakeValid(Text);
+        std::fwrite(Valid.data(), 1, Valid.size(), stdout);
         // Tests and other programs read the URL and the console's answers through a pipe.
         std::fflush(stdout);
     }
