@@ -62,6 +62,10 @@ TEST(FOrvHostileInputFilesTest, EveryJsonReaderRefusesDeepNestingNamingTheFileAn
     EXPECT_EQ(FOrvSceneFile::LoadText(R"({"actors":)" + DeepJson + "}", "room.json", Editor).Error,
               "room.json: line 1, column 266: arrays and objects nest deeper than 256 levels");
 
+    // Files that must be UTF-8 must not become anything else through an escape either.
+    EXPECT_EQ(FOrvSceneFile::LoadText(R"({"map":"A\udc00"})", "room.json", Editor).Error,
+              "room.json: line 1, column 17: Invalid encoding in string.");
+
     FOrvManualGameThread GameThread;
     FOrvOfflineCatalogApi Catalog(GameThread);
     EXPECT_EQ(Catalog.LoadText(DeepJson, "catalog.json").Error, "catalog.json: " + DepthProblem);

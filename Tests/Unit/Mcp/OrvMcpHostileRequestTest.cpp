@@ -113,6 +113,8 @@ TEST_F(FOrvMcpHostileRequestTest, NumbersTheEngineCouldNotHoldAreRefusedOthersEc
 {
     EXPECT_EQ(OrvCondensedJson(Answer(R"({"id":1e999,"method":"ping"})")), ParseErrorEnvelope);
     EXPECT_EQ(OrvCondensedJson(Answer(R"({"id":NaN,"method":"ping"})")), ParseErrorEnvelope);
+    EXPECT_EQ(OrvCondensedJson(Answer(R"({"id":21e308,"method":"ping"})")), ParseErrorEnvelope)
+        << "rounds to infinity, which would be echoed as null";
     EXPECT_EQ(OrvCondensedJson(Answer(R"({"id":18446744073709551615,"method":"ping"})")),
               R"({"jsonrpc":"2.0","id":18446744073709551615,"result":{}})");
     EXPECT_EQ(OrvCondensedJson(Answer(R"({"id":-0,"method":"ping"})")),

@@ -1,18 +1,56 @@
 #include "Core/Json/OrvJson.h"
 
 #include "Core/Common/OrvStrings.h"
+#include "Core/Common/OrvUtf8.h"
 #include "Core/Json/OrvRapidJson.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <system_error>
 
 namespace OrvWebBridge
 {
     namespace
     {
+        // Whether a number that a double cannot hold is too large (rather than too small): the decimal
+        // position of its first significant digit plus its exponent decides.
+        bool OrvJsonIsBeyondDouble(std::string_view Number)
+        {
+            const std::size_t ExponentAt = Number.find_first_of("eE");
+            const std::string_view Mantissa = Number.substr(0, ExponentAt);
+            long long Exponent = 0;
+            if (ExponentAt != std::string_view::npos)
+            {
+                std::string_view Written = Number.substr(ExponentAt + 1);
+                const bool bNegative = !Written.empty() && Written.front() == '-';
+                if (!Written.empty() && (Written.front() == '+' || Written.front() == '-'))
+                {
+                    Written.remove_prefix(1);
+                }
+                if (std::from_chars(Written.data(), Written.data() + Written.size(), Exponent).ec !=
+                    std::errc())
+                {
+                    Exponent = 1LL << 40; // more digits than any text could make up for
+                }
+                Exponent = bNegative ? -Exponent : Exponent;
+            }
+            const std::size_t Point = std::min(Mantissa.find('.'), Mantissa.size());
+            const std::size_t First = Mantissa.find_first_of("123456789");
+            const long long Magnitude = First < Point ? static_cast<long long>(Point - First)
+                                                      : -static_cast<long long>(First - Point - 1);
+            return Magnitude + Exponent > 0;
+        }
+
         // Forwards RapidJSON's events to the document and stops the parse at the first array or object
         // that would nest deeper than FOrvJson::MaxDepth.
         class FOrvJsonDepthLimit
         {
         public:
-            explicit FOrvJsonDepthLimit(rapidjson::Document& InTarget) : Target(InTarget) {}
+            FOrvJsonDepthLimit(rapidjson::Document& InTarget, bool bInValidateUtf8)
+                : Target(InTarget), bValidateUtf8(bInValidateUtf8)
+            {
+            }
 
             bool Null() { return Target.Null(); }
             bool Bool(bool bValue) { return Target.Bool(bValue); }
@@ -20,18 +58,63 @@ namespace OrvWebBridge
             bool Uint(unsigned Value) { return Target.Uint(Value); }
             bool Int64(std::int64_t Value) { return Target.Int64(Value); }
             bool Uint64(std::uint64_t Value) { return Target.Uint64(Value); }
-            bool Double(double Value) { return Target.Double(Value); }
-            bool RawNumber(const char* Text, rapidjson::SizeType Length, bool bCopy)
+            // RapidJSON refuses exponents beyond 308 but lets "21e308" round to infinity, which JSON cannot
+            // write back (it would come out as null): as large a number is refused the same way.
+            bool Double(double Value)
             {
-                return Target.RawNumber(Text, Length, bCopy);
+                if (!std::isfinite(Value))
+                {
+                    ValueError = rapidjson::kParseErrorNumberTooBig;
+                    return false;
+                }
+                return Target.Double(Value);
+            }
+            // Only called in full-precision reads, which take numbers as text (kParseNumbersAsStringsFlag):
+            // converted here as strtod converts them, correctly rounded. (RapidJSON 1.1.0's own
+            // full-precision conversion has undefined behaviour on zeros written with a fraction and on long
+            // fractions.)
+            bool RawNumber(const char* Text, rapidjson::SizeType Length, bool)
+            {
+                const std::string_view Number(Text, Length);
+                if (Number.find_first_of(".eE") == std::string_view::npos)
+                {
+                    // Integers as RapidJSON keeps them; beyond 64 bits, a double like any other number.
+                    if (Number.front() == '-')
+                    {
+                        std::int64_t Value = 0;
+                        if (std::from_chars(Text, Text + Length, Value).ec == std::errc())
+                        {
+                            return Target.Int64(Value);
+                        }
+                    }
+                    else
+                    {
+                        std::uint64_t Value = 0;
+                        if (std::from_chars(Text, Text + Length, Value).ec == std::errc())
+                        {
+                            return Target.Uint64(Value);
+                        }
+                    }
+                }
+                double Value = 0.0;
+                if (std::from_chars(Text, Text + Length, Value).ec == std::errc::result_out_of_range)
+                {
+                    if (OrvJsonIsBeyondDouble(Number))
+                    {
+                        ValueError = rapidjson::kParseErrorNumberTooBig;
+                        return false;
+                    }
+                    Value = Number.front() == '-' ? -0.0 : 0.0; // too small: zero, as strtod underflows
+                }
+                return Target.Double(Value);
             }
             bool String(const char* Text, rapidjson::SizeType Length, bool bCopy)
             {
-                return Target.String(Text, Length, bCopy);
+                return CheckText(Text, Length) && Target.String(Text, Length, bCopy);
             }
             bool Key(const char* Text, rapidjson::SizeType Length, bool bCopy)
             {
-                return Target.Key(Text, Length, bCopy);
+                return CheckText(Text, Length) && Target.Key(Text, Length, bCopy);
             }
             bool StartObject() { return Enter() && Target.StartObject(); }
             bool EndObject(rapidjson::SizeType MemberCount)
@@ -47,8 +130,21 @@ namespace OrvWebBridge
             }
 
             bool bTooDeep = false;
+            rapidjson::ParseErrorCode ValueError = rapidjson::kParseErrorNone; ///< of one string or number
 
         private:
+            // RapidJSON validates the bytes of the text, not what escapes decode to: a lone \udc00 becomes
+            // bytes that are not UTF-8. A read that asked for valid UTF-8 refuses those too.
+            bool CheckText(const char* Text, rapidjson::SizeType Length)
+            {
+                if (bValidateUtf8 && !FOrvUtf8::IsValid({Text, Length}))
+                {
+                    ValueError = rapidjson::kParseErrorStringInvalidEncoding;
+                    return false;
+                }
+                return true;
+            }
+
             bool Enter()
             {
                 bTooDeep = ++Depth > FOrvJson::MaxDepth;
@@ -56,6 +152,7 @@ namespace OrvWebBridge
             }
 
             rapidjson::Document& Target;
+            bool bValidateUtf8 = false;
             int Depth = 0;
         };
 
@@ -69,9 +166,13 @@ namespace OrvWebBridge
             bool bTooDeep = false;
             const auto Generate = [&](rapidjson::Document& Target)
             {
-                FOrvJsonDepthLimit Handler(Target);
+                FOrvJsonDepthLimit Handler(Target, (Flags & rapidjson::kParseValidateEncodingFlag) != 0);
                 Result = Reader.Parse<Flags | rapidjson::kParseIterativeFlag>(Stream, Handler);
                 bTooDeep = Handler.bTooDeep;
+                if (Handler.ValueError != rapidjson::kParseErrorNone)
+                {
+                    Result.Set(Handler.ValueError, Result.Offset());
+                }
                 return !Result.IsError();
             };
             Out.SetNull();
@@ -93,7 +194,7 @@ namespace OrvWebBridge
     {
         FOrvJsonParseError Error;
         constexpr unsigned Validate = rapidjson::kParseValidateEncodingFlag;
-        constexpr unsigned Precise = rapidjson::kParseFullPrecisionFlag;
+        constexpr unsigned Precise = rapidjson::kParseNumbersAsStringsFlag; // converted in RawNumber
         const bool bOk =
             Options.bValidateUtf8
                 ? (Options.bFullPrecision ? OrvJsonParse<Validate | Precise>(Text, Out, Error)

@@ -19,9 +19,10 @@ namespace OrvWebBridge
     /** @brief How strictly a reader wants its text read. */
     struct FOrvJsonParseOptions
     {
-        bool bValidateUtf8 =
-            false; ///< reject invalid UTF-8 (else it passes through and the writer repairs it)
-        bool bFullPrecision = false; ///< numbers read as strtod reads them
+        /** Refuse text that is not UTF-8, escapes included (else it passes and the writer repairs it). */
+        bool bValidateUtf8 = false;
+        /** Numbers read as strtod reads them, correctly rounded. */
+        bool bFullPrecision = false;
     };
 
     /** @brief Small read helpers over RapidJSON values, in the spirit of FJsonObject's TryGet* calls. */
