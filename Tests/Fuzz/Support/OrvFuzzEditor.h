@@ -1,0 +1,58 @@
+#pragma once
+
+#include "Core/Mcp/OrvMcpHandler.h"
+#include "Core/Ports/IOrvLog.h"
+#include "Host/Editor/OrvDemoScene.h"
+#include "Host/Editor/OrvMemoryEditor.h"
+#include "Host/Editor/OrvSceneFile.h"
+#include "Host/Editor/OrvTurboJpegModule.h"
+#include "Tests/Support/OrvManualGameThread.h"
+
+#include <cstdlib>
+
+namespace OrvWebBridge
+{
+    /** @brief A log that prints nothing, so the fuzzer's own output stays readable. */
+    class FOrvFuzzLog : public IOrvLog
+    {
+    public:
+        void Log(EOrvLogCategory, EOrvLogVerbosity, std::string_view) override {}
+    };
+
+    /**
+     * @brief The host's in-memory editor on the demo room, with the real JPEG encoder behind the handler. The
+     * viewport is small so that captures stay cheap; every input gets a fresh level, so runs do not depend
+     * on each other.
+     */
+    struct FOrvFuzzEditor
+    {
+        FOrvFuzzEditor()
+        {
+            if (!FOrvSceneFile::LoadText(std::string(FOrvDemoScene::SceneJson()), "demo", Editor).bOk)
+            {
+                std::abort();
+            }
+            FOrvMemoryViewportDesc Viewport = Editor.GetViewport().value_or(FOrvMemoryViewportDesc{});
+            Viewport.Size = {64, 40};
+            Editor.SetViewport(Viewport);
+        }
+
+        FOrvMcpPorts Ports()
+        {
+            return {Editor.World(),
+                    Editor.Editing(),
+                    Editor.Transactions(),
+                    Editor.Assets(),
+                    Editor.Meshes(),
+                    Editor.Viewport(),
+                    Jpeg,
+                    GameThread,
+                    Log};
+        }
+
+        FOrvMemoryEditor Editor;
+        FOrvTurboJpegModule Jpeg;
+        FOrvManualGameThread GameThread;
+        FOrvFuzzLog Log;
+    };
+} // namespace OrvWebBridge
