@@ -45,7 +45,7 @@ TEST(FOrvServeHostileRequestsEndToEndTest, JsonAttacksGetBoundedAnswersAndLeaveT
         R"({"jsonrpc":"2.0","id":"\udc00","method":"x)" + Repeat("\xFF", 1000) + "\"}",
         R"({"jsonrpc":"2.0","id":1e999,"method":"ping"})",
         R"({"jsonrpc":"2.0","id":[-0,99999999999999999999,1e20],"method":"ping"})",
-        R"({"jsonrpc":"2.0","id":1,"method":")" + Repeat("m", 4 << 20) + "\"}",
+        R"({"jsonrpc":"2.0","id":1,"method":")" + std::string(4 << 20, 'm') + "\"}",
         ToolCall("ue_spawn_product", R"({"asset_path":")" + Repeat("\\udc00", 1000) + R"(","location":)" +
                                          Repeat("[", 300) + Repeat("]", 300) + "}"),
         ToolCall("ue_spawn_product",
