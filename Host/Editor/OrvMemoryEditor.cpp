@@ -196,4 +196,10 @@ namespace OrvWebBridge
     {
         return State->Viewport;
     }
+
+    FOrvMcpPorts FOrvMemoryEditor::McpPorts(IOrvImageWrapperModule& Images, IOrvGameThread& GameThread,
+                                            IOrvLog& Log)
+    {
+        return {World(), Editing(), Transactions(), Assets(), Meshes(), Viewport(), Images, GameThread, Log};
+    }
 } // namespace OrvWebBridge

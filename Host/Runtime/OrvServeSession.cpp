@@ -10,21 +10,10 @@
 
 namespace OrvWebBridge
 {
-    namespace
-    {
-        FOrvMcpPorts MakePorts(FOrvMemoryEditor& Editor, IOrvImageWrapperModule& Images,
-                               FOrvHostEventLoop& Loop, IOrvLog& Log)
-        {
-            return FOrvMcpPorts{Editor.World(),  Editor.Editing(),  Editor.Transactions(),
-                                Editor.Assets(), Editor.Meshes(),   Editor.Viewport(),
-                                Images,          Loop.GameThread(), Log};
-        }
-    } // namespace
-
     FOrvServeSession::FOrvServeSession(FOrvHostEventLoop& InLoop, FOrvMemoryEditor& InEditor,
                                        IOrvImageWrapperModule& Images, IOrvLog& InLog, std::string SceneFile)
         : Loop(InLoop), Editor(InEditor), Log(InLog),
-          Endpoint(InLoop, MakePorts(InEditor, Images, InLoop, InLog), InLog),
+          Endpoint(InLoop, InEditor.McpPorts(Images, InLoop.GameThread(), InLog), InLog),
           Console(InEditor, std::move(SceneFile), [this] { Loop.Stop(); }),
           Input(
               InLoop, [this](const std::string& Line) { OnConsoleLine(Line); }, [] {})

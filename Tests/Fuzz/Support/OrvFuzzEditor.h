@@ -37,21 +37,16 @@ namespace OrvWebBridge
             Editor.SetViewport(Viewport);
         }
 
-        FOrvMcpPorts Ports()
+        FOrvMcpPorts Ports() { return Editor.McpPorts(Jpeg(), GameThread, Log); }
+
+        /** One encoder for the whole run: it keeps no state between pictures but its buffer. */
+        static FOrvTurboJpegModule& Jpeg()
         {
-            return {Editor.World(),
-                    Editor.Editing(),
-                    Editor.Transactions(),
-                    Editor.Assets(),
-                    Editor.Meshes(),
-                    Editor.Viewport(),
-                    Jpeg,
-                    GameThread,
-                    Log};
+            static FOrvTurboJpegModule Module;
+            return Module;
         }
 
         FOrvMemoryEditor Editor;
-        FOrvTurboJpegModule Jpeg;
         FOrvManualGameThread GameThread;
         FOrvFuzzLog Log;
     };

@@ -40,9 +40,7 @@ TEST(FOrvCaptureViewTest, TheEditorViewportComesBackAsAJpegOfItsOwnSize)
     Viewport.Size = {320, 200};
     Rig.Editor.SetViewport(Viewport);
     FOrvTurboJpegModule Jpeg;
-    FOrvMcpHandler Handler({Rig.Editor.World(), Rig.Editor.Editing(), Rig.Editor.Transactions(),
-                            Rig.Editor.Assets(), Rig.Editor.Meshes(), Rig.Editor.Viewport(), Jpeg,
-                            Rig.GameThread, Rig.Log});
+    FOrvMcpHandler Handler(Rig.Editor.McpPorts(Jpeg, Rig.GameThread, Rig.Log));
     const std::vector<std::string> Responses = OrvSendMcpRequest(
         Handler, Rig.GameThread, R"({"id":1,"method":"tools/call","params":{"name":"ue_capture_view"}})");
     ASSERT_EQ(Responses.size(), 1u);
