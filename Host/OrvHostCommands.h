@@ -19,8 +19,11 @@ namespace OrvWebBridge
         std::string SceneFile; ///< empty: the built-in demo scene
         std::uint32_t Port = 30011;
         FOrvCatalogSourceOptions Catalog;
-        bool bVerbose = false;   ///< also print Verbose log lines
-        bool bNoConsole = false; ///< do not read commands from standard input
+        bool bVerbose = false;           ///< also print Verbose log lines
+        bool bNoConsole = false;         ///< do not read commands from standard input
+        std::uint32_t PanelPort = 30012; ///< the catalogue panel's port (0: the system chooses)
+        bool bNoPanel = false;           ///< do not serve the catalogue panel
+        std::string SiteDir; ///< --site DIR: serve this static build in the panel instead of the demo
     };
 
     /** @brief orv-host outliner */

@@ -42,9 +42,10 @@ int main(int Argc, char** Argv)
     FOrvServeOptions Serve;
     auto* ServeCommand = App.add_subcommand(
         "serve",
-        "Serve the MCP endpoint on http://127.0.0.1:PORT/mcp (the URL line is printed once listening),\n"
-        "with a console on standard input: list, undo, redo, history, save [FILE], the outliner\n"
-        "(tree, select, hide, show, export) and quit. Ctrl+C or SIGTERM stop it cleanly.");
+        "Serve the MCP endpoint on http://127.0.0.1:PORT/mcp and the catalogue panel on\n"
+        "http://127.0.0.1:PANEL-PORT/ (each URL line is printed once listening), with a console on standard\n"
+        "input: list, undo, redo, history, save [FILE], the outliner (tree, select, hide, show, export) and\n"
+        "quit. Ctrl+C or SIGTERM stop it cleanly.");
     AddSceneOption(*ServeCommand, Serve.SceneFile);
     ServeCommand->add_option("--port", Serve.Port, "Port to listen on (0 lets the system choose)")
         ->capture_default_str()
@@ -53,6 +54,21 @@ int main(int Argc, char** Argv)
     ServeCommand->add_flag("--verbose,-v", Serve.bVerbose, "Also print Verbose log lines");
     ServeCommand->add_flag("--no-console", Serve.bNoConsole,
                            "Do not read console commands from standard input");
+    auto* PanelPort =
+        ServeCommand
+            ->add_option("--panel-port", Serve.PanelPort,
+                         "Port of the catalogue panel at http://127.0.0.1:PORT/ (0 lets the system choose)")
+            ->capture_default_str()
+            ->check(CLI::Range(0, 65535));
+    auto* Site =
+        ServeCommand
+            ->add_option("--site", Serve.SiteDir,
+                         "Serve this folder (a web developer's static build, with index.html) in the "
+                         "panel instead of the built-in demo site")
+            ->check(CLI::ExistingDirectory);
+    ServeCommand->add_flag("--no-panel", Serve.bNoPanel, "Do not serve the catalogue panel")
+        ->excludes(PanelPort)
+        ->excludes(Site);
 
     FOrvOutlinerOptions Outliner;
     auto* OutlinerCommand = App.add_subcommand(

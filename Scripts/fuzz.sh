@@ -70,7 +70,8 @@ for index in "${!names[@]}"; do
     # in the regressions folder, named by libFuzzer (crash-<sha1>, leak-..., timeout-...).
     log="$build/fuzz-$name.log"
     set +e
-    "$executable" -max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 -max_len=65536 \
+    TIMEFORMAT="== $name: %U s user + %S s system CPU"
+    time "$executable" -max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 -max_len=65536 \
         -print_final_stats=1 -dict="Tests/Fuzz/Dictionaries/$name.dict" -artifact_prefix="$regressions/" \
         "$corpus" "Tests/Fuzz/Corpus/$name" "$regressions" >"$log" 2>&1
     status=$?

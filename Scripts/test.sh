@@ -1,12 +1,13 @@
 #!/usr/bin/env bash
 # Builds everything with AddressSanitizer and UBSan and runs every test: the engine-free guards, the
-# unit and end-to-end suites, the official MCP TypeScript SDK client against the host, and a minute of
-# fuzzing over the seeds and past crashes.
+# unit and end-to-end suites, the official MCP TypeScript SDK client against the host, the catalogue
+# panel in headless Chromium, and a minute of fuzzing over the seeds and past crashes.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 bash Scripts/install-deps.sh
 (cd Tests/Interop && npm ci --no-audit --no-fund --loglevel=error)
+(cd Tests/Browser && npm ci --no-audit --no-fund --loglevel=error)
 
 bash Scripts/check-format.sh
 

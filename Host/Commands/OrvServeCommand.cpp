@@ -37,7 +37,12 @@ namespace OrvWebBridge
             std::fprintf(stderr, "orv-host serve: %s\n", Error.c_str());
             return 1;
         }
-        if (!Session.Start(Options.Port, Error))
+        std::optional<FOrvHostPanelOptions> Panel;
+        if (!Options.bNoPanel)
+        {
+            Panel = FOrvHostPanelOptions{Options.PanelPort, Options.SiteDir, Options.Catalog.CatalogFile};
+        }
+        if (!Session.Start(Options.Port, Panel, Error))
         {
             std::fprintf(stderr, "orv-host serve: %s\n", Error.c_str());
             return 1;

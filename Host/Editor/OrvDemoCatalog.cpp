@@ -1,6 +1,7 @@
 // The offline catalogue of the demo room (Docs/CatalogFormat.md): one record per product it holds.
 // The cushion has no macro category, so the outliner shows its category at the root; the coffee table's
-// name holds a comma and double quotes, which the schedule CSV has to escape.
+// name holds a comma and double quotes, which the schedule CSV has to escape. The finishes are what the
+// catalogue panel's finish pages show.
 #include "Host/Editor/OrvDemoScene.h"
 
 namespace OrvWebBridge
@@ -255,6 +256,36 @@ namespace OrvWebBridge
       "weight": "0.6 kg",
       "description": "Striped linen cushion with a feather insert.",
       "website": "https://www.tessilemori.example/righe/cuscino"
+    }
+  ],
+  "finishes": [
+    {
+      "id": "FIN-OAK-NAT",
+      "name": "Natural Oak, oiled",
+      "brand": "Forma Nova",
+      "description": "European oak finished with a hard-wax oil that keeps the open grain matt.",
+      "products": ["FNV-TB-2040", "FNV-CH-1102", "FNV-ST-1150"]
+    },
+    {
+      "id": "FIN-ASH-BLK",
+      "name": "Black-stained Ash",
+      "brand": "Linea Studio",
+      "description": "Ash stained deep black; the ribs of the doors catch the light.",
+      "products": ["LNS-SB-0450", "LNS-BK-0460", "LNS-CH-0480"]
+    },
+    {
+      "id": "FIN-MAR-CAR",
+      "name": "Carrara Marble, honed",
+      "brand": "Pietra Viva",
+      "description": "White Carrara with grey veining, honed to a soft sheen.",
+      "products": ["PVV-CT-0510"]
+    },
+    {
+      "id": "FIN-BOU-IVO",
+      "name": "Ivory Boucle",
+      "brand": "Atelier Brera",
+      "description": "Looped wool boucle in warm ivory, removable covers.",
+      "products": ["ATB-SF-3300", "ATB-AC-3120"]
     }
   ]
 }

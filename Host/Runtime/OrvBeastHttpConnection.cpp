@@ -1,6 +1,7 @@
 #include "Host/Runtime/OrvBeastHttpConnection.h"
 
 #include "Core/Common/OrvStrings.h"
+#include "Host/Runtime/OrvBeastHttpEventStream.h"
 
 namespace OrvWebBridge
 {
@@ -46,7 +47,8 @@ namespace OrvWebBridge
     FOrvBeastHttpConnection::FOrvBeastHttpConnection(tcp::socket&& Socket,
                                                      std::shared_ptr<FOrvHostHttpRouter> InRouter,
                                                      std::shared_ptr<FOrvBeastHttpShared> InShared)
-        : Stream(std::move(Socket)), Router(std::move(InRouter)), Shared(std::move(InShared))
+        : Stream(std::move(Socket)), Router(std::move(InRouter)), Shared(std::move(InShared)),
+          Heartbeat(Stream.get_executor())
     {
     }
 
@@ -80,6 +82,12 @@ namespace OrvWebBridge
         FErrorCode Ignored;
         Stream.socket().shutdown(tcp::socket::shutdown_both, Ignored);
         Stream.close();
+        Heartbeat.cancel();
+        if (const auto Ended = EventStream.lock())
+        {
+            EventStream.reset();
+            Ended->MarkEnded();
+        }
     }
 
     void FOrvBeastHttpConnection::ReadHeader()
@@ -204,8 +212,8 @@ namespace OrvWebBridge
         {
             Request.Query = std::string(Target.substr(Mark + 1));
         }
-        const FOrvHttpRequestHandler Handler = Router->FindHandler(Request.Path, Request.Verb);
-        if (!Handler)
+        const FOrvHostHttpRoute Route = Router->FindRoute(Request.Path, Request.Verb);
+        if (!Route.Handler && !Route.StreamHandler)
         {
             SendPlain(404, "Not found.\n", bKeepAlive);
             return;
@@ -217,11 +225,17 @@ namespace OrvWebBridge
             Request.Headers.emplace_back(std::string(Field.name_string()), std::string(Field.value()));
         }
 
+        // A handler may take as long as it needs (a tool's editor work), and an event stream's reads wait for
+        // the client to leave: no timer runs meanwhile.
+        Stream.expires_never();
+        if (Route.StreamHandler)
+        {
+            DispatchStream(Route.StreamHandler, Request);
+            return;
+        }
         const std::uint64_t Serial = ++RequestSerial;
         bAwaitingHandler = true;
-        // A handler may take as long as it needs (a tool's editor work); no timer runs meanwhile.
-        Stream.expires_never();
-        const bool bHandled = Handler(Request, MakeCompletion(Serial));
+        const bool bHandled = Route.Handler(Request, MakeCompletion(Serial));
         if (!bHandled && bAwaitingHandler && RequestSerial == Serial)
         {
             bAwaitingHandler = false;
@@ -256,6 +270,11 @@ namespace OrvWebBridge
             SendPlain(500, "The request handler ended without an answer.\n", bKeepAlive);
             return;
         }
+        SendResponse(std::move(Reply));
+    }
+
+    void FOrvBeastHttpConnection::SendResponse(std::unique_ptr<FOrvHttpResponse> Reply)
+    {
         FResponse Message;
         Message.version(11);
         Message.result(Reply->Code >= 100 && Reply->Code <= 599 ? static_cast<unsigned>(Reply->Code) : 500u);

@@ -11,11 +11,14 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <string>
+#include <string_view>
 #include <unordered_map>
 
 namespace OrvWebBridge
 {
     class FOrvBeastHttpConnection;
+    class FOrvBeastHttpEventStream;
 
     /** @brief What the module and its connections share; outlives the module while connections close. */
     struct FOrvBeastHttpShared
@@ -34,7 +37,9 @@ namespace OrvWebBridge
 
     /**
      * @brief One accepted connection: reads requests one after the other, hands each to its route's handler
-     * and writes the answer whenever the handler completes, then reads the next (keep-alive).
+     * and writes the answer whenever the handler completes, then reads the next (keep-alive). A request for
+     * an event stream that its handler accepts turns the connection into that stream until either side ends
+     * it (the stream part lives in OrvBeastHttpEventStream.cpp).
      */
     class FOrvBeastHttpConnection : public std::enable_shared_from_this<FOrvBeastHttpConnection>
     {
@@ -52,7 +57,21 @@ namespace OrvWebBridge
         /** Closes the socket at once; pending operations end and the connection goes away. */
         void Close();
 
+        /** Queues formatted event-stream bytes; false when the stream is ending or closed, or (closing it)
+         * when the bytes waiting behind the write in progress would pass the bound. */
+        bool QueueStreamBytes(std::string_view Bytes);
+
+        /** Ends the event stream: writes what is queued, then closes. */
+        void EndStream();
+
     private:
+        enum class EStreamPhase
+        {
+            None,
+            Opening, ///< inside the stream handler: events queue, nothing is written yet
+            Open,
+        };
+
         using FResponse = OrvBeast::http::response<OrvBeast::http::string_body>;
 
         void ReadHeader();
@@ -60,8 +79,13 @@ namespace OrvWebBridge
         void ReadBody();
         void OnBody(const OrvBeast::FErrorCode& Error);
         void Dispatch();
+        void DispatchStream(const FOrvHttpEventStreamHandler& Handler, const FOrvHttpRequest& Request);
+        void WatchStreamPeer();
+        void WriteStream();
+        void ArmHeartbeat();
         FOrvHttpResultCallback MakeCompletion(std::uint64_t Serial);
         void Complete(std::uint64_t Serial, std::unique_ptr<FOrvHttpResponse> Response);
+        void SendResponse(std::unique_ptr<FOrvHttpResponse> Reply);
         void SendPlain(unsigned Status, std::string_view Text, bool bKeepAlive);
         void Send(FResponse&& Response);
         void OnWritten(const OrvBeast::FErrorCode& Error);
@@ -84,5 +108,12 @@ namespace OrvWebBridge
         bool bAwaitingHandler = false;
         bool bKeepAlive = false;
         bool bClosed = false;
+
+        std::weak_ptr<FOrvBeastHttpEventStream> EventStream;
+        std::string StreamQueued;  ///< waiting behind the write in progress
+        std::string StreamWriting; ///< the write in progress
+        OrvBeast::asio::steady_timer Heartbeat;
+        EStreamPhase StreamPhase = EStreamPhase::None;
+        bool bStreamEnding = false;
     };
 } // namespace OrvWebBridge

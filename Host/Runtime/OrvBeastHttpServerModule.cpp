@@ -159,6 +159,11 @@ namespace OrvWebBridge
 
     std::shared_ptr<IOrvHttpRouter> FOrvBeastHttpServerModule::GetHttpRouter(std::uint32_t Port, bool)
     {
+        return GetHostHttpRouter(Port);
+    }
+
+    std::shared_ptr<FOrvHostHttpRouter> FOrvBeastHttpServerModule::GetHostHttpRouter(std::uint32_t Port)
+    {
         if (Port > 65535)
         {
             return nullptr;

@@ -26,22 +26,33 @@ namespace OrvWebBridge
     FOrvHttpRouteHandle FOrvHostHttpRouter::BindRoute(std::string_view Path, EOrvHttpVerb Verb,
                                                       FOrvHttpRequestHandler Handler)
     {
-        const std::string_view Normalized = NormalizePath(Path);
-        if (Normalized.empty() || Normalized.front() != '/' || !Handler)
+        if (!Handler)
         {
             return {};
         }
-        const bool bTaken = std::any_of(Routes.begin(), Routes.end(),
-                                        [&](const FRoute& Route) {
-                                            return Route.Verb == Verb &&
-                                                   FOrvStrings::EqualsIgnoreCase(Route.Path, Normalized);
-                                        });
-        if (bTaken)
+        return Bind(Path, Verb, FOrvHostHttpRoute{std::move(Handler), {}});
+    }
+
+    FOrvHttpRouteHandle FOrvHostHttpRouter::BindEventStream(std::string_view Path,
+                                                            FOrvHttpEventStreamHandler Handler)
+    {
+        if (!Handler)
+        {
+            return {};
+        }
+        return Bind(Path, EOrvHttpVerb::Get, FOrvHostHttpRoute{{}, std::move(Handler)});
+    }
+
+    FOrvHttpRouteHandle FOrvHostHttpRouter::Bind(std::string_view Path, EOrvHttpVerb Verb,
+                                                 FOrvHostHttpRoute Target)
+    {
+        const std::string_view Normalized = NormalizePath(Path);
+        if (Normalized.empty() || Normalized.front() != '/' || Find(Normalized, Verb) != nullptr)
         {
             return {};
         }
         const std::uint64_t Id = ++GLastRouteId;
-        Routes.push_back(FRoute{Id, std::string(Normalized), Verb, std::move(Handler)});
+        Routes.push_back(FRoute{Id, std::string(Normalized), Verb, std::move(Target)});
         return FOrvHttpRouteHandle{Id};
     }
 
@@ -51,16 +62,28 @@ namespace OrvWebBridge
                       [&](const FRoute& Route) { return Handle.IsValid() && Route.Id == Handle.Value; });
     }
 
-    FOrvHttpRequestHandler FOrvHostHttpRouter::FindHandler(std::string_view Path, EOrvHttpVerb Verb) const
+    void FOrvHostHttpRouter::SetFallbackHandler(FOrvHttpRequestHandler Handler)
+    {
+        Fallback = std::move(Handler);
+    }
+
+    const FOrvHostHttpRouter::FRoute* FOrvHostHttpRouter::Find(std::string_view Path, EOrvHttpVerb Verb) const
     {
         const std::string_view Normalized = NormalizePath(Path);
-        for (const FRoute& Route : Routes)
+        const auto Found = std::find_if(Routes.begin(), Routes.end(),
+                                        [&](const FRoute& Route) {
+                                            return Route.Verb == Verb &&
+                                                   FOrvStrings::EqualsIgnoreCase(Route.Path, Normalized);
+                                        });
+        return Found != Routes.end() ? &*Found : nullptr;
+    }
+
+    FOrvHostHttpRoute FOrvHostHttpRouter::FindRoute(std::string_view Path, EOrvHttpVerb Verb) const
+    {
+        if (const FRoute* Route = Find(Path, Verb))
         {
-            if (Route.Verb == Verb && FOrvStrings::EqualsIgnoreCase(Route.Path, Normalized))
-            {
-                return Route.Handler;
-            }
+            return Route->Target;
         }
-        return {};
+        return FOrvHostHttpRoute{Fallback, {}};
     }
 } // namespace OrvWebBridge

@@ -1,7 +1,7 @@
 #include "Host/Runtime/OrvServeSession.h"
 
+#include "Core/Common/OrvLogging.h"
 #include "Core/Common/OrvUtf8.h"
-
 #include "Host/Editor/OrvMemoryEditor.h"
 #include "Host/Runtime/OrvHostEventLoop.h"
 
@@ -14,6 +14,7 @@ namespace OrvWebBridge
                                        IOrvImageWrapperModule& Images, IOrvLog& InLog, std::string SceneFile)
         : Loop(InLoop), Editor(InEditor), Log(InLog),
           Endpoint(InLoop, InEditor.McpPorts(Images, InLoop.GameThread(), InLog), InLog),
+          Panel(InLoop, InLog, [this](const std::string& Text) { Print(Text); }),
           Console(InEditor, std::move(SceneFile), [this] { Loop.Stop(); }),
           Input(
               InLoop, [this](const std::string& Line) { OnConsoleLine(Line); }, [] {})
@@ -37,12 +38,28 @@ namespace OrvWebBridge
         return true;
     }
 
-    bool FOrvServeSession::Start(std::uint32_t Port, std::string& Error)
+    bool FOrvServeSession::Start(std::uint32_t Port, const std::optional<FOrvHostPanelOptions>& PanelOptions,
+                                 std::string& Error)
     {
         // Output to a closed pipe must fail as a write error, not end the host.
         std::signal(SIGPIPE, SIG_IGN);
-        if (!Endpoint.Start(Port, Error))
+        std::string McpError;
+        const bool bMcp = Endpoint.Start(Port, McpError);
+        if (!bMcp && !PanelOptions)
         {
+            Error = McpError;
+            return false;
+        }
+        if (!bMcp)
+        {
+            OrvLogf(Log, EOrvLogCategory::LogTemp, EOrvLogVerbosity::Warning,
+                    "Orv MCP: failed to start server on port %u (port in use? firewall?). Other plugin "
+                    "functionality is unaffected.",
+                    Port);
+        }
+        if (PanelOptions && !Panel.Start(*PanelOptions, Error))
+        {
+            Endpoint.Stop();
             return false;
         }
         Signals = std::make_unique<FOrvStopSignals>(Loop, [this](int) { Loop.Stop(); });
@@ -51,7 +68,10 @@ namespace OrvWebBridge
             // The first scan starts only once serving is sure, so a busy port ends the run quietly.
             Outliner->Start(Console);
         }
-        Print("Serving MCP on " + Endpoint.GetMcpUrl() + "\n");
+        // One write, so that whoever reads the panel's line has the endpoint's line too.
+        const std::string PanelLine =
+            PanelOptions ? "Orv Catalog: " + Panel.GetUrl() + " (sign in as demo, password demo)\n" : "";
+        Print(PanelLine + (bMcp ? "Serving MCP on " + Endpoint.GetMcpUrl() + "\n" : ""));
         return true;
     }
 
@@ -71,6 +91,7 @@ namespace OrvWebBridge
         Loop.Run();
         Input.Stop();
         Signals.reset();
+        Panel.Stop();
         Endpoint.Stop();
         if (Editor.IsDirty())
         {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Host/Panel/OrvHostPanel.h"
 #include "Host/Runtime/OrvConsoleInput.h"
 #include "Host/Runtime/OrvHostMcpEndpoint.h"
 #include "Host/Runtime/OrvServeConsole.h"
@@ -9,6 +10,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace OrvWebBridge
@@ -18,8 +20,8 @@ namespace OrvWebBridge
     class IOrvImageWrapperModule;
 
     /**
-     * @brief One run of "orv-host serve" once the level is loaded: the MCP endpoint, the console on standard
-     * input and the stop signals, all on the event loop, until quit, Ctrl+C or SIGTERM.
+     * @brief One run of "orv-host serve" once the level is loaded: the MCP endpoint, the catalogue panel, the
+     * console on standard input and the stop signals, all on the event loop, until quit, Ctrl+C or SIGTERM.
      */
     class FOrvServeSession
     {
@@ -34,8 +36,12 @@ namespace OrvWebBridge
          */
         bool OpenOutliner(const FOrvCatalogSourceOptions& Catalog, std::string& Error);
 
-        /** Starts serving on Port and prints the URL line; false with a message for the user in Error. */
-        bool Start(std::uint32_t Port, std::string& Error);
+        /**
+         * Serves MCP on Port and, unless Panel is empty, the catalogue panel; prints a URL line for each.
+         * As in the editor, a port for MCP that cannot be had leaves the rest running with a Warning; without
+         * a panel that would leave nothing, so it fails. False with a message for the user in Error.
+         */
+        bool Start(std::uint32_t Port, const std::optional<FOrvHostPanelOptions>& Panel, std::string& Error);
 
         /** Reads console commands from InputFd (standard input); false when it cannot be read. */
         bool StartConsole(int InputFd);
@@ -46,6 +52,7 @@ namespace OrvWebBridge
         FOrvServeConsole& GetConsole() { return Console; }
         FOrvHostMcpEndpoint& GetEndpoint() { return Endpoint; }
         FOrvServeOutliner* GetOutliner() { return Outliner.get(); }
+        FOrvHostPanel& GetPanel() { return Panel; }
 
     private:
         void OnConsoleLine(const std::string& Line);
@@ -55,6 +62,7 @@ namespace OrvWebBridge
         FOrvMemoryEditor& Editor;
         IOrvLog& Log;
         FOrvHostMcpEndpoint Endpoint;
+        FOrvHostPanel Panel;
         FOrvServeConsole Console;
         FOrvConsoleInput Input;
         std::unique_ptr<FOrvStopSignals> Signals;

@@ -58,26 +58,38 @@ TEST(FOrvServeLifecycleEndToEndTest, NoConsoleIgnoresStandardInput)
     EXPECT_EQ(Host.Client().Get("/health").Status, 200);
 }
 
-TEST(FOrvServeLifecycleEndToEndTest, BusyPortExitsWithAHintBeforeServing)
+TEST(FOrvServeLifecycleEndToEndTest, ABusyMcpPortLeavesThePanelServingAndWithoutThePanelEndsTheRun)
 {
     FOrvServedHost First;
     std::string Error;
     ASSERT_TRUE(First.Start(ORV_HOST_EXECUTABLE, {"--no-console"}, Error)) << Error;
-
-    FOrvHostProcess Second;
     const std::string Port = std::to_string(First.GetPort());
-    ASSERT_TRUE(Second.Start(ORV_HOST_EXECUTABLE, {"serve", "--port", Port, "--no-console"}, Error)) << Error;
-    const std::optional<int> Code = Second.WaitForExit(ExitTimeoutSeconds);
+
+    FOrvHostProcess WithPanel;
+    ASSERT_TRUE(WithPanel.Start(ORV_HOST_EXECUTABLE,
+                                {"serve", "--port", Port, "--panel-port", "0", "--no-console"}, Error))
+        << Error;
+    EXPECT_TRUE(WithPanel.WaitForOutputLine(
+        [](const std::string& Line) { return Line.starts_with("Orv Catalog: "); }, ExitTimeoutSeconds))
+        << WithPanel.GetErrors();
+    EXPECT_NE(
+        WithPanel.GetErrors().find("LogTemp: Warning: Orv MCP: failed to start server on port " + Port +
+                                   " (port in use? firewall?). Other plugin functionality is unaffected."),
+        std::string::npos)
+        << WithPanel.GetErrors();
+    EXPECT_EQ(WithPanel.GetOutput().find("Serving MCP"), std::string::npos);
+    EXPECT_FALSE(WithPanel.WaitForExit(0.2).has_value()) << "the panel goes on serving";
+
+    FOrvHostProcess WithoutPanel;
+    ASSERT_TRUE(WithoutPanel.Start(ORV_HOST_EXECUTABLE,
+                                   {"serve", "--port", Port, "--no-panel", "--no-console"}, Error))
+        << Error;
+    const std::optional<int> Code = WithoutPanel.WaitForExit(ExitTimeoutSeconds);
     ASSERT_TRUE(Code.has_value());
     EXPECT_NE(*Code, 0);
-    EXPECT_NE(Second.GetErrors().find("port " + Port + " is already in use; pick another with --port"),
+    EXPECT_NE(WithoutPanel.GetErrors().find("port " + Port + " is already in use; pick another with --port"),
               std::string::npos)
-        << Second.GetErrors();
-    EXPECT_NE(
-        Second.GetErrors().find("LogOrvMcp: Warning: Orv MCP: failed to acquire HTTP router on port " + Port),
-        std::string::npos)
-        << Second.GetErrors();
-    EXPECT_EQ(Second.GetOutput().find("Serving MCP"), std::string::npos);
+        << WithoutPanel.GetErrors();
     EXPECT_EQ(First.Client().Get("/health").Status, 200) << "the first host keeps serving";
 }
 

@@ -12,7 +12,7 @@ if (!HostPath) {
     process.exit(2);
 }
 
-const Host = spawn(HostPath, ["serve", "--port", "0", "--no-console"], { stdio: ["ignore", "pipe", "pipe"] });
+const Host = spawn(HostPath, ["serve", "--port", "0", "--no-panel", "--no-console"], { stdio: ["ignore", "pipe", "pipe"] });
 let HostErrors = "";
 Host.stderr.on("data", (Chunk) => (HostErrors += Chunk));
 const HostExited = new Promise((Resolve) => Host.on("exit", (Code, Signal) => Resolve({ Code, Signal })));

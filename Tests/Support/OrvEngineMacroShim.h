@@ -9,12 +9,30 @@
 #define verify(Expr) ((void)(Expr))
 #define ensure(Expr) (!!(Expr))
 #define checkf(Expr, ...) ((void)(Expr))
+#undef TEXT // the engine replaces <windows.h>'s TEXT with its own
 #define TEXT(Literal) L##Literal
+// On a Windows build <windows.h> came first and these are its own definitions; elsewhere they stand in.
+#ifndef GetObject
 #define GetObject GetObjectW
+#endif
+#ifndef GetCurrentTime
 #define GetCurrentTime() 0
+#endif
+#ifndef Yield
 #define Yield() ((void)0)
+#endif
+#ifndef CreateWindow
 #define CreateWindow CreateWindowW
+#endif
+#ifndef GetMessage
 #define GetMessage GetMessageW
+#endif
+#ifndef SendMessage
 #define SendMessage SendMessageW
+#endif
+#ifndef LoadImage
 #define LoadImage LoadImageW
+#endif
+#ifndef DrawText
 #define DrawText DrawTextW
+#endif

@@ -41,7 +41,7 @@ namespace OrvWebBridge
     bool FOrvServedHost::Start(const std::string& Executable, const std::vector<std::string>& ExtraArgs,
                                std::string& Error)
     {
-        std::vector<std::string> Args{"serve", "--port", "0"};
+        std::vector<std::string> Args{"serve", "--port", "0", "--panel-port", "0"};
         Args.insert(Args.end(), ExtraArgs.begin(), ExtraArgs.end());
         if (!Child.Start(Executable, Args, Error))
         {

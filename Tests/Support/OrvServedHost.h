@@ -26,8 +26,8 @@ namespace OrvWebBridge
         std::string ErrorCode() const;
     };
 
-    /** @brief "orv-host serve --port 0" as a child process, with an HTTP client on the port its URL line
-     * names.
+    /** @brief "orv-host serve --port 0 --panel-port 0" as a child process, with an HTTP client on the port
+     * its URL line names.
      */
     class FOrvServedHost
     {

@@ -6,6 +6,8 @@
 #include <boost/asio/read.hpp>
 #include <boost/asio/write.hpp>
 
+#include <array>
+
 namespace OrvWebBridge
 {
     using namespace OrvBeast;
@@ -122,6 +124,70 @@ namespace OrvWebBridge
             Disconnect();
         }
         return Reply;
+    }
+
+    FOrvTestHttpReply FOrvTestHttpClient::OpenStream(std::string_view Target, double TimeoutSeconds)
+    {
+        FOrvTestHttpReply Reply;
+        const std::string Request = "GET " + std::string(Target) + " HTTP/1.1\r\nHost: 127.0.0.1\r\n\r\n";
+        if (!Connect(TimeoutSeconds) ||
+            Run([&](auto Done) { asio::async_write(Socket, asio::buffer(Request), Done); }, TimeoutSeconds))
+        {
+            Reply.Error = "could not send the request";
+            return Reply;
+        }
+        http::response_parser<http::empty_body> Parser;
+        if (const FErrorCode Error = Run(
+                [&](auto Done) { http::async_read_header(Socket, Buffer, Parser, Done); }, TimeoutSeconds))
+        {
+            Reply.Error = "read: " + Error.message();
+            return Reply;
+        }
+        Reply.bReceived = true;
+        Reply.Status = static_cast<int>(Parser.get().result_int());
+        for (const auto& Field : Parser.get())
+        {
+            Reply.Headers.emplace_back(std::string(Field.name_string()), std::string(Field.value()));
+        }
+        // Whatever came with the header is the start of the body.
+        StreamText = beast::buffers_to_string(Buffer.data());
+        StreamCursor = 0;
+        Buffer.consume(Buffer.size());
+        return Reply;
+    }
+
+    bool FOrvTestHttpClient::ReadStreamUntil(std::string_view Needle, double TimeoutSeconds)
+    {
+        const auto Deadline = std::chrono::steady_clock::now() + OrvBeast::Seconds(TimeoutSeconds);
+        std::array<char, 4096> Chunk{};
+        while (true)
+        {
+            if (const std::size_t Found = StreamText.find(Needle, StreamCursor); Found != std::string::npos)
+            {
+                StreamCursor = Found + Needle.size();
+                return true;
+            }
+            const double Left =
+                std::chrono::duration<double>(Deadline - std::chrono::steady_clock::now()).count();
+            std::size_t Read = 0;
+            if (Left <= 0.0 || !Socket.is_open() ||
+                Run(
+                    [&](auto Done)
+                    {
+                        Socket.async_read_some(
+                            asio::buffer(Chunk),
+                            [&Read, Done](const FErrorCode& Error, std::size_t Count) mutable
+                            {
+                                Read = Count;
+                                Done(Error);
+                            });
+                    },
+                    Left))
+            {
+                return false;
+            }
+            StreamText.append(Chunk.data(), Read);
+        }
     }
 
     bool FOrvTestHttpClient::WaitForServerClose(double TimeoutSeconds)

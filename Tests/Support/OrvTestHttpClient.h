@@ -50,6 +50,17 @@ namespace OrvWebBridge
         /** Reads one more answer without sending (the second of two pipelined requests). */
         FOrvTestHttpReply ReadReply(double TimeoutSeconds = 10.0);
 
+        /** Sends a GET and reads only the answer's status and headers: an event stream's body does not end.
+         */
+        FOrvTestHttpReply OpenStream(std::string_view Target, double TimeoutSeconds = 10.0);
+
+        /** Reads the open stream on until Needle arrives after the previous match; false on timeout or close.
+         */
+        bool ReadStreamUntil(std::string_view Needle, double TimeoutSeconds = 10.0);
+
+        /** The open stream's body as read so far. */
+        const std::string& GetStreamText() const { return StreamText; }
+
         /** false when the connection is refused. */
         bool Connect(double TimeoutSeconds = 10.0);
 
@@ -68,5 +79,7 @@ namespace OrvWebBridge
         std::uint16_t Port;
         OrvBeast::tcp::socket Socket;
         OrvBeast::beast::flat_buffer Buffer;
+        std::string StreamText;
+        std::size_t StreamCursor = 0;
     };
 } // namespace OrvWebBridge

@@ -309,3 +309,44 @@ TEST_F(FOrvOutlinerPanelModelTest, ClosingThePanelMidScanAndMidDebounceLeavesNot
     Rig.Api.Answer(Answer());
     EXPECT_EQ(Rig.Timers.PendingCount(), 0u);
 }
+
+TEST_F(FOrvOutlinerPanelModelTest, APanelOpenedBeforeAnyLevelFollowsTheMapOpenedLater)
+{
+    Rig.Editor.SetEditorWorldAvailable(false);
+    FOrvOutlinerPanelModel Panel(Rig.PanelPorts());
+    Panel.Construct();
+    EXPECT_EQ(Panel.GetStatusText(), "No products in scene");
+
+    Rig.Editor.SetEditorWorldAvailable(true);
+    Panel.OnMapOpened();
+    Rig.Api.Answer(Answer());
+    EXPECT_EQ(Panel.GetStatusText(), "6 products in scene");
+
+    Rig.Destroy(Chairs[0]);
+    Rig.Timers.Advance(FOrvOutlinerPanelModel::RefreshDebounceDelay);
+    EXPECT_EQ(Panel.GetStatusText(), "5 products in scene");
+}
+
+TEST_F(FOrvOutlinerPanelModelTest, ChangingMapsDropsTheOldLevelsPendingRescanScanAndNotifications)
+{
+    FOrvOutlinerPanelModel Panel(Rig.PanelPorts());
+    Panel.Construct(); // its catalogue request stays open
+    Rig.Destroy(Chairs[0]);
+    ASSERT_EQ(Rig.Timers.PendingCount(), 1u);
+
+    Panel.OnWorldTornDown();
+    EXPECT_EQ(Rig.Timers.PendingCount(), 0u);
+    Rig.Destroy(Chairs[1]);
+    EXPECT_EQ(Rig.Timers.PendingCount(), 0u) << "no longer listening to the old world";
+
+    Panel.OnMapOpened();
+    ASSERT_EQ(Rig.Api.Requests.size(), 2u);
+    Rig.Api.Answer(Answer()); // the old level's answer
+    EXPECT_TRUE(Panel.IsRefreshing());
+    Rig.Api.Answer(Answer());
+    EXPECT_EQ(Panel.GetStatusText(), "4 products in scene");
+
+    Rig.Destroy(Chairs[2]);
+    EXPECT_EQ(Rig.Timers.PendingCount(), 1u) << "listening to the new world, once";
+    EXPECT_EQ(Rig.Log.Count("OrvOutlinerPanel: Registered for world actor changes"), 2);
+}

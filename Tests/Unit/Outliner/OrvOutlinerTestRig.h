@@ -5,6 +5,7 @@
 #include "Core/Outliner/OrvOutlinerScanner.h"
 #include "Host/Editor/OrvMemoryEditor.h"
 #include "Host/Outliner/OrvHostEditorUi.h"
+#include "Tests/Support/OrvFakeTimers.h"
 #include "Tests/Support/OrvRecordingLog.h"
 
 #include <gtest/gtest.h>
@@ -63,41 +64,6 @@ namespace OrvWebBridge
             }
             ADD_FAILURE() << "no open catalogue request to answer";
         }
-    };
-
-    /** @brief Timers on a clock that only the test moves. */
-    class FOrvFakeTimers : public IOrvTimers
-    {
-    public:
-        FOrvTimerHandle SetTimer(double DelaySeconds, std::function<void()> Callback) override
-        {
-            Pending[{Now + DelaySeconds, ++LastId}] = std::move(Callback);
-            return {LastId};
-        }
-        void ClearTimer(FOrvTimerHandle& Handle) override
-        {
-            std::erase_if(Pending, [&](const auto& Entry) { return Entry.first.second == Handle.Value; });
-            Handle = {};
-        }
-
-        /** Moves the clock on, firing due timers in the order they fall due. */
-        void Advance(double Seconds)
-        {
-            Now += Seconds;
-            while (!Pending.empty() && Pending.begin()->first.first <= Now + 1e-9)
-            {
-                std::function<void()> Callback = std::move(Pending.begin()->second);
-                Pending.erase(Pending.begin());
-                Callback();
-            }
-        }
-        std::size_t PendingCount() const { return Pending.size(); }
-
-    private:
-        std::map<std::pair<double, std::uint64_t>, std::function<void()>>
-            Pending; ///< (due time, id) to callback
-        std::uint64_t LastId = 0;
-        double Now = 0.0;
     };
 
     /** @brief A save dialog that answers as told, and files kept in memory. */

@@ -1,6 +1,4 @@
-#include "Host/Runtime/OrvBeastHttpServerModule.h"
-
-#include "Host/Runtime/OrvHostEventLoop.h"
+#include "Tests/Support/OrvBeastServerRig.h"
 #include "Tests/Support/OrvTestHttpClient.h"
 
 #include <gtest/gtest.h>
@@ -13,53 +11,10 @@ using namespace OrvWebBridge;
 
 // The exact /health and /sse answers, -32700 on broken bodies and the busy-port message are proved over
 // the real binary by the end-to-end tests; these cover what the server does with HTTP itself.
-namespace
-{
-    std::unique_ptr<FOrvHttpResponse> MakeText(std::string Body)
-    {
-        auto Response = std::make_unique<FOrvHttpResponse>();
-        Response->ContentType = "text/plain";
-        Response->Body = std::move(Body);
-        return Response;
-    }
-
-    /** A module listening on an OS-chosen port with one router, started, and a client on it. */
-    struct FOrvServerRig
-    {
-        explicit FOrvServerRig(FOrvHttpServerLimits Limits = {}) : Module(Loop, Limits)
-        {
-            Router = Module.GetHttpRouter(0, false);
-            Module.StartAllListeners();
-        }
-
-        std::uint16_t Port() const { return static_cast<std::uint16_t>(Module.GetBoundPort(0)); }
-
-        /** Binds a route whose handler answers with the request body, on a later turn of the loop. */
-        FOrvHttpRouteHandle BindEcho(const char* Path, EOrvHttpVerb Verb)
-        {
-            return Router->BindRoute(
-                Path, Verb,
-                [this](const FOrvHttpRequest& Request, const FOrvHttpResultCallback& Done)
-                {
-                    Loop.GameThread().Post([Done, Body = Request.Body] { Done(MakeText(Body)); });
-                    return true;
-                });
-        }
-
-        bool WaitForConnections(std::size_t Count)
-        {
-            return Loop.RunUntil([&] { return Module.GetOpenConnectionCount() == Count; }, 5.0);
-        }
-
-        FOrvHostEventLoop Loop;
-        FOrvBeastHttpServerModule Module;
-        std::shared_ptr<IOrvHttpRouter> Router;
-    };
-} // namespace
 
 TEST(FOrvBeastHttpServerModuleTest, PathsMatchLikeTheEngineRouterAndOtherRequestsGet404OnTheSameConnection)
 {
-    FOrvServerRig Rig;
+    FOrvBeastServerRig Rig;
     ASSERT_NE(Rig.Router, nullptr);
     std::string SeenPath;
     std::string SeenQuery;
@@ -70,7 +25,7 @@ TEST(FOrvBeastHttpServerModuleTest, PathsMatchLikeTheEngineRouterAndOtherRequest
                               SeenPath = Request.Path;
                               SeenQuery = Request.Query;
                               SeenOrigin = Request.FindHeader("origin");
-                              Done(MakeText("ok"));
+                              Done(MakeTextResponse("ok"));
                               return true;
                           });
     Rig.Router->BindRoute("/declines", EOrvHttpVerb::Get,
@@ -108,9 +63,53 @@ TEST(FOrvBeastHttpServerModuleTest, PathsMatchLikeTheEngineRouterAndOtherRequest
     EXPECT_TRUE(Client.IsConnected()) << "the connection is kept alive through all of it";
 }
 
+TEST(FOrvBeastHttpServerModuleTest, TheFallbackAnswersUnmatchedGetsAndPostsWhileBoundRoutesWin)
+{
+    FOrvBeastServerRig Rig;
+    Rig.BindEcho("/mcp", EOrvHttpVerb::Post);
+    Rig.Router->BindRoute("/health", EOrvHttpVerb::Get,
+                          [](const FOrvHttpRequest&, const FOrvHttpResultCallback& Done)
+                          {
+                              Done(MakeTextResponse("ok"));
+                              return true;
+                          });
+    const auto AcceptStream = [](const FOrvHttpRequest&, const std::shared_ptr<IOrvHttpEventStream>&)
+    { return std::unique_ptr<FOrvHttpResponse>(); };
+    const FOrvHttpRouteHandle Events = Rig.Router->BindEventStream("/events", AcceptStream);
+    ASSERT_TRUE(Events.IsValid());
+    EXPECT_FALSE(Rig.Router->BindEventStream("/Health/", AcceptStream).IsValid()) << "GET /health is bound";
+    EXPECT_FALSE(
+        Rig.Router->BindRoute("/events", EOrvHttpVerb::Get, [](auto&, auto&) { return true; }).IsValid());
+
+    FOrvTestHttpClient Client(Rig.Loop.Context(), Rig.Port());
+    EXPECT_EQ(Client.Get("/index.html").Status, 404) << "no fallback yet";
+    Rig.Router->SetFallbackHandler(
+        [](const FOrvHttpRequest& Request, const FOrvHttpResultCallback& Done)
+        {
+            if (Request.Path == "/declined")
+            {
+                return false;
+            }
+            const char* Verb = Request.Verb == EOrvHttpVerb::Get ? "GET " : "POST ";
+            Done(MakeTextResponse(Verb + Request.Path + " " + Request.Body));
+            return true;
+        });
+    EXPECT_EQ(Client.Get("/index.html?v=2").Body, "GET /index.html ");
+    EXPECT_EQ(Client.Post("/form", "a=1").Body, "POST /form a=1");
+    EXPECT_EQ(Client.Get("/mcp").Body, "GET /mcp ") << "a path bound for POST only";
+    EXPECT_EQ(Client.Post("/MCP/", "{}").Body, "{}");
+    EXPECT_EQ(Client.Get("/health").Body, "ok");
+    EXPECT_EQ(Client.Get("/declined").Status, 404);
+    EXPECT_EQ(Client.Send("DELETE", "/index.html", "").Status, 404);
+    EXPECT_EQ(FOrvTestHttpClient(Rig.Loop.Context(), Rig.Port()).OpenStream("/events").Header("Content-Type"),
+              "text/event-stream");
+    Rig.Router->UnbindRoute(Events);
+    EXPECT_EQ(Client.Get("/events").Body, "GET /events ");
+}
+
 TEST(FOrvBeastHttpServerModuleTest, DeferredAnswersKeepExactBytesAndPipelineOrder)
 {
-    FOrvServerRig Rig;
+    FOrvBeastServerRig Rig;
     Rig.BindEcho("/mcp", EOrvHttpVerb::Post);
     FOrvTestHttpClient Client(Rig.Loop.Context(), Rig.Port());
     const std::string Bytes("{\"a\":\"\xC3\xA9\"}\0\xFF\r\n", 14);
@@ -129,7 +128,7 @@ TEST(FOrvBeastHttpServerModuleTest, DeferredAnswersKeepExactBytesAndPipelineOrde
 
 TEST(FOrvBeastHttpServerModuleTest, LateDoubleOrMissingCompletionsAndClientsThatLeftAreSafe)
 {
-    FOrvServerRig Rig;
+    FOrvBeastServerRig Rig;
     std::optional<FOrvHttpResultCallback> Kept;
     Rig.Router->BindRoute("/later", EOrvHttpVerb::Post,
                           [&](const FOrvHttpRequest& Request, const FOrvHttpResultCallback& Done)
@@ -142,8 +141,8 @@ TEST(FOrvBeastHttpServerModuleTest, LateDoubleOrMissingCompletionsAndClientsThat
                               Rig.Loop.GameThread().Post(
                                   [Done, Body = Request.Body]
                                   {
-                                      Done(MakeText("late " + Body));
-                                      Done(MakeText("twice"));
+                                      Done(MakeTextResponse("late " + Body));
+                                      Done(MakeTextResponse("twice"));
                                   });
                               return true;
                           });
@@ -163,7 +162,7 @@ TEST(FOrvBeastHttpServerModuleTest, LateDoubleOrMissingCompletionsAndClientsThat
     }
     ASSERT_TRUE(Kept.has_value());
     Rig.Loop.RunUntil([] { return false; }, 0.05);
-    (*Kept)(MakeText("nobody listens"));
+    (*Kept)(MakeTextResponse("nobody listens"));
     Kept.reset();
     EXPECT_TRUE(Rig.WaitForConnections(1));
     EXPECT_EQ(Client.Post("/later", "three").Body, "late three");
@@ -173,7 +172,7 @@ TEST(FOrvBeastHttpServerModuleTest, OversizedMalformedAndExpectContinueRequestsG
 {
     FOrvHttpServerLimits Limits;
     Limits.MaxBodyBytes = 1024;
-    FOrvServerRig Rig(Limits);
+    FOrvBeastServerRig Rig(Limits);
     Rig.BindEcho("/mcp", EOrvHttpVerb::Post);
 
     FOrvTestHttpClient Client(Rig.Loop.Context(), Rig.Port());
@@ -197,7 +196,7 @@ TEST(FOrvBeastHttpServerModuleTest, ConnectionsBeyondTheLimitAreRefusedWith503)
 {
     FOrvHttpServerLimits Limits;
     Limits.MaxConnections = 2;
-    FOrvServerRig Rig(Limits);
+    FOrvBeastServerRig Rig(Limits);
     Rig.BindEcho("/mcp", EOrvHttpVerb::Post);
     FOrvTestHttpClient First(Rig.Loop.Context(), Rig.Port());
     FOrvTestHttpClient Second(Rig.Loop.Context(), Rig.Port());
@@ -216,7 +215,7 @@ TEST(FOrvBeastHttpServerModuleTest, IdleAndSlowConnectionsAreClosedAfterTheReadT
 {
     FOrvHttpServerLimits Limits;
     Limits.ReadTimeoutSeconds = 0.1;
-    FOrvServerRig Rig(Limits);
+    FOrvBeastServerRig Rig(Limits);
     FOrvTestHttpClient Idle(Rig.Loop.Context(), Rig.Port());
     ASSERT_TRUE(Idle.Connect());
     EXPECT_TRUE(Idle.WaitForServerClose(5.0));
@@ -228,7 +227,7 @@ TEST(FOrvBeastHttpServerModuleTest, IdleAndSlowConnectionsAreClosedAfterTheReadT
 
 TEST(FOrvBeastHttpServerModuleTest, StopAllListenersClosesEverythingAndTheRouterServesAgainAfterARestart)
 {
-    FOrvServerRig Rig;
+    FOrvBeastServerRig Rig;
     Rig.BindEcho("/mcp", EOrvHttpVerb::Post);
     const std::uint16_t OldPort = Rig.Port();
     FOrvTestHttpClient Client(Rig.Loop.Context(), OldPort);

@@ -7,6 +7,7 @@
 #include "Components/StaticMeshComponent.h"
 #include "Engine/StaticMeshActor.h"
 #include "Engine/World.h"
+#include "Templates/Casts.h"
 
 namespace OrvWebBridge
 {

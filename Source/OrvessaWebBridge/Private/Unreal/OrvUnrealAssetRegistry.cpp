@@ -8,7 +8,9 @@
 #include "AssetRegistry/IAssetRegistry.h"
 #include "Engine/StaticMesh.h"
 #include "Modules/ModuleManager.h"
+#include "Templates/Casts.h"
 #include "UObject/SoftObjectPath.h"
+#include "UObject/UObjectGlobals.h"
 
 namespace OrvWebBridge
 {

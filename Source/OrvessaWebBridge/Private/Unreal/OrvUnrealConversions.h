@@ -22,6 +22,9 @@ namespace OrvWebBridge
         /** FString to UTF-8 bytes, by length. */
         static std::string ToUtf8(const FString& Text);
 
+        /** UTF-8 bytes to a text shown as it is (names from the level or the catalogue, not localised). */
+        static FText ToFText(std::string_view Utf8) { return FText::FromString(ToFString(Utf8)); }
+
         static FVector ToFVector(const FOrvVector& Vector);
         static FOrvVector ToOrvVector(const FVector& Vector);
 

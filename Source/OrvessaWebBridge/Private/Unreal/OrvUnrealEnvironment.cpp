@@ -10,7 +10,8 @@ namespace OrvWebBridge
 {
     std::string FOrvUnrealEnvironment::GetProjectDir() const
     {
-        return FOrvUnrealConversions::ToUtf8(FPaths::ProjectDir());
+        // ProjectDir is relative to the engine's binaries ("../../../Villa/"); dialogs want a full path.
+        return FOrvUnrealConversions::ToUtf8(FPaths::ConvertRelativePathToFull(FPaths::ProjectDir()));
     }
 
     std::optional<std::string> FOrvUnrealEnvironment::FindPluginVersion(std::string_view PluginName) const

@@ -23,6 +23,22 @@ namespace OrvWebBridge
             // The body is raw bytes without a terminator: copied by length, never read as a C string.
             Converted.Body.assign(reinterpret_cast<const char*>(Request.Body.GetData()),
                                   static_cast<size_t>(Request.Body.Num()));
+            for (const TPair<FString, TArray<FString>>& Header : Request.Headers)
+            {
+                for (const FString& Value : Header.Value)
+                {
+                    Converted.Headers.emplace_back(FOrvUnrealConversions::ToUtf8(Header.Key),
+                                                   FOrvUnrealConversions::ToUtf8(Value));
+                }
+            }
+            // The engine hands the query over already split into names and values, so the string after '?'
+            // is put back together from them (in the map's order, which need not be the client's).
+            for (const TPair<FString, FString>& Param : Request.QueryParams)
+            {
+                Converted.Query += Converted.Query.empty() ? "" : "&";
+                Converted.Query += FOrvUnrealConversions::ToUtf8(Param.Key) + "=" +
+                                   FOrvUnrealConversions::ToUtf8(Param.Value);
+            }
             return Converted;
         }
 

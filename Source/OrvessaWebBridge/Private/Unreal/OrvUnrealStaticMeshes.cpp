@@ -1,11 +1,10 @@
 #include "Unreal/OrvUnrealStaticMeshes.h"
 
+#include "Unreal/Closed/OrvClosedProductTag.h"
 #include "Unreal/OrvUnrealConversions.h"
 #include "Unreal/OrvUnrealHandles.h"
 
 #include "Engine/StaticMesh.h"
-// The import module's asset user data class (module OrvImport; it must export StaticClass).
-#include "OrvProductData.h"
 
 namespace OrvWebBridge
 {
@@ -35,17 +34,8 @@ namespace OrvWebBridge
 
     std::optional<FOrvProductTag> FOrvUnrealStaticMeshes::GetProductTag(FOrvMeshRef Mesh) const
     {
+        // The tag is the maker's import module's; without that module, no mesh has one.
         UStaticMesh* Resolved = Handles.ResolveMesh(Mesh);
-        if (!Resolved)
-        {
-            return std::nullopt;
-        }
-        const UOrvProductData* Tag =
-            Cast<UOrvProductData>(Resolved->GetAssetUserDataOfClass(UOrvProductData::StaticClass()));
-        if (!Tag)
-        {
-            return std::nullopt;
-        }
-        return FOrvProductTag{FOrvUnrealConversions::ToUtf8(Tag->ProductID), Tag->IsValid()};
+        return Resolved ? ReadClosedProductTag(*Resolved) : std::nullopt;
     }
 } // namespace OrvWebBridge

@@ -22,6 +22,9 @@ namespace OrvWebBridge
         /** The catalogue service's API. */
         static constexpr const char* ApiBaseUrl = "https://api.orvessa.com";
 
+        /** Domain of the session cookies handed to the web panel, so the site and the API both see them. */
+        static constexpr const char* CookieDomain = ".orvessa.com";
+
         /** The plugin's name for the plugin manager. */
         static constexpr const char* PluginName = "ORVESSA";
     };

@@ -23,17 +23,44 @@ namespace OrvWebBridge
 
     void FOrvOutlinerPanelModel::Construct()
     {
-        if (Ports.World.HasEditorWorld())
+        RegisterForLevelChanges();
+        RefreshPanel();
+    }
+
+    void FOrvOutlinerPanelModel::RegisterForLevelChanges()
+    {
+        if (!Ports.World.HasEditorWorld())
         {
-            ActorEventsHandle =
-                Ports.LevelEvents.AddActorHandlers([this](FOrvActorRef Actor) { OnActorSpawned(Actor); },
-                                                   [this](FOrvActorRef Actor) { OnActorDeleted(Actor); });
-            if (ActorEventsHandle.IsValid())
-            {
-                OrvLogf(Ports.Log, EOrvLogCategory::LogTemp, EOrvLogVerbosity::Log,
-                        "OrvOutlinerPanel: Registered for world actor changes");
-            }
+            return;
         }
+        ActorEventsHandle =
+            Ports.LevelEvents.AddActorHandlers([this](FOrvActorRef Actor) { OnActorSpawned(Actor); },
+                                               [this](FOrvActorRef Actor) { OnActorDeleted(Actor); });
+        if (ActorEventsHandle.IsValid())
+        {
+            OrvLogf(Ports.Log, EOrvLogCategory::LogTemp, EOrvLogVerbosity::Log,
+                    "OrvOutlinerPanel: Registered for world actor changes");
+        }
+    }
+
+    void FOrvOutlinerPanelModel::OnWorldTornDown()
+    {
+        CancelDebouncedRefresh();
+        Ports.LevelEvents.RemoveActorHandlers(ActorEventsHandle);
+        ActorEventsHandle = {};
+        if (bIsRefreshing)
+        {
+            // The old level's catalogue answer must not fill the new level's tree.
+            Scanner->CancelScan();
+            bIsRefreshing = false;
+        }
+    }
+
+    void FOrvOutlinerPanelModel::OnMapOpened()
+    {
+        // Also covers a map change that came without a tear-down notice.
+        OnWorldTornDown();
+        RegisterForLevelChanges();
         RefreshPanel();
     }
 

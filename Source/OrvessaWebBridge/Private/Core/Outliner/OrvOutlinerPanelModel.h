@@ -135,7 +135,14 @@ namespace OrvWebBridge
         void ScheduleDebouncedRefresh();
         void CancelDebouncedRefresh();
 
+        // Map changes: the editor replaces its world, and with it the actor notifications and the timers.
+        /** The world is about to go: drops its actor registrations, the pending rescan and a running scan. */
+        void OnWorldTornDown();
+        /** A map was loaded or created: follows the new world's actor changes and rescans it. */
+        void OnMapOpened();
+
     private:
+        void RegisterForLevelChanges();
         void OnScanComplete(const FOrvOutlinerTreeItems& InRootItems);
         void SetStatusText(std::string Text);
         void NotifyChanged();

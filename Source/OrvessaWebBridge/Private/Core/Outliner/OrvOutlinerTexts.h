@@ -1,17 +1,12 @@
 #pragma once
 
+#include "Core/Common/OrvLocText.h"
+
 #include <cstdint>
 #include <string>
 
 namespace OrvWebBridge
 {
-    /** @brief A user-visible text with its localisation key; the Slate layer wraps it in NSLOCTEXT. */
-    struct FOrvLocText
-    {
-        const char* Key;
-        const char* Text;
-    };
-
     /** @brief Texts of the outliner panel, namespace "OrvOutlinerPanel". */
     struct FOrvOutlinerPanelTexts
     {

@@ -12,7 +12,7 @@ namespace OrvWebBridge
     public:
         virtual ~IOrvEnvironment() = default;
 
-        /** The project directory (FPaths::ProjectDir). */
+        /** The project directory as a full path (FPaths::ProjectDir made absolute). */
         virtual std::string GetProjectDir() const = 0;
 
         /** The version name of a plugin's descriptor; nothing when the plugin manager does not find it. */

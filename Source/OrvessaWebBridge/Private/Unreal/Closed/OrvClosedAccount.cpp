@@ -1,0 +1,19 @@
+#include "Unreal/Closed/OrvClosedAccount.h"
+
+#if ORV_WITH_CLOSED_MODULES
+
+#include "Engine/Engine.h"
+// ASSUMED (1): the core module's header for its account subsystem is called so.
+#include "OrvSubsystem.h"
+
+namespace OrvWebBridge
+{
+    bool OrvClosedIsUserLoggedIn()
+    {
+        // ASSUMED (2): an engine subsystem. ASSUMED (3): GetLoginState() is const and answers a bool.
+        const UOrvSubsystem* Subsystem = GEngine ? GEngine->GetEngineSubsystem<UOrvSubsystem>() : nullptr;
+        return Subsystem && Subsystem->GetLoginState();
+    }
+} // namespace OrvWebBridge
+
+#endif
