@@ -35,8 +35,11 @@ namespace OrvWebBridge
             FOrvSceneFileResult Read(const std::string& Text)
             {
                 rapidjson::Document Document;
+                // Numbers correctly rounded, as the writer's shortest form assumes: a scene saved and
+                // loaded again keeps every number to the last bit.
                 FOrvJsonParseError ParseError;
-                if (!FOrvJson::Parse(Text, Document, &ParseError, {.bValidateUtf8 = true}) ||
+                if (!FOrvJson::Parse(Text, Document, &ParseError,
+                                     {.bValidateUtf8 = true, .bFullPrecision = true}) ||
                     !Document.IsObject())
                 {
                     return {false, SourceName + ": " + FOrvJson::DescribeParseError(Text, ParseError)};
