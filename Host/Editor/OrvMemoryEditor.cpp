@@ -256,4 +256,10 @@ namespace OrvWebBridge
     {
         return State->WidgetFocus;
     }
+
+    FOrvMcpPorts FOrvMemoryEditor::McpPorts(IOrvImageWrapperModule& Images, IOrvGameThread& GameThread,
+                                            IOrvLog& Log)
+    {
+        return {World(), Editing(), Transactions(), Assets(), Meshes(), Viewport(), Images, GameThread, Log};
+    }
 } // namespace OrvWebBridge

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Core/Common/OrvTypes.h"
+#include "Core/Mcp/OrvMcpPorts.h"
 #include "Core/Ports/IOrvActorEditing.h"
 #include "Core/Ports/IOrvAssetRegistry.h"
 #include "Core/Ports/IOrvContentBrowser.h"
@@ -155,6 +156,9 @@ namespace OrvWebBridge
         IOrvViewport& Viewport();
         IOrvContentBrowser& ContentBrowser();
         IOrvWidgetFocus& WidgetFocus();
+
+        /** The ports the AI tools use, this editor's together with the given encoder, game thread and log. */
+        FOrvMcpPorts McpPorts(IOrvImageWrapperModule& Images, IOrvGameThread& GameThread, IOrvLog& Log);
 
     private:
         struct FState;

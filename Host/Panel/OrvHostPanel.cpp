@@ -16,9 +16,8 @@
 #include "Host/Panel/OrvPanelSite.h"
 #include "Host/Panel/OrvPanelWindows.h"
 #include "Host/Runtime/OrvHostEventLoop.h"
-
-#include <fstream>
-#include <sstream>
+#include "Host/Runtime/OrvHostHttpRouter.h"
+#include "Host/Runtime/OrvInputFile.h"
 
 namespace OrvWebBridge
 {
@@ -73,12 +72,9 @@ namespace OrvWebBridge
     bool FOrvHostPanel::Start(const FOrvHostPanelOptions& Options, std::string& Error)
     {
         std::string Text(FOrvDemoScene::CatalogJson());
-        if (!Options.CatalogFile.empty())
+        if (!Options.CatalogFile.empty() && !FOrvInputFile::Read(Options.CatalogFile, Text, Error))
         {
-            std::ifstream Stream(Options.CatalogFile, std::ios::binary);
-            std::ostringstream Read;
-            Read << Stream.rdbuf();
-            Text = Read.str();
+            return false;
         }
         FOrvPanelCatalog Catalog;
         std::string Problem;

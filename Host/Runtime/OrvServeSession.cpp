@@ -1,5 +1,6 @@
 #include "Host/Runtime/OrvServeSession.h"
 
+#include "Core/Common/OrvUtf8.h"
 #include "Host/Editor/OrvMemoryEditor.h"
 #include "Host/Panel/OrvPanelPage.h"
 #include "Host/Panel/OrvPanelToolbar.h"
@@ -10,21 +11,10 @@
 
 namespace OrvWebBridge
 {
-    namespace
-    {
-        FOrvMcpPorts MakePorts(FOrvMemoryEditor& Editor, IOrvImageWrapperModule& Images,
-                               FOrvHostEventLoop& Loop, IOrvLog& Log)
-        {
-            return FOrvMcpPorts{Editor.World(),  Editor.Editing(),  Editor.Transactions(),
-                                Editor.Assets(), Editor.Meshes(),   Editor.Viewport(),
-                                Images,          Loop.GameThread(), Log};
-        }
-    } // namespace
-
     FOrvServeSession::FOrvServeSession(FOrvHostEventLoop& InLoop, FOrvMemoryEditor& InEditor,
                                        IOrvImageWrapperModule& Images, IOrvLog& InLog, std::string SceneFile)
         : Loop(InLoop), Editor(InEditor), Log(InLog),
-          Endpoint(InLoop, MakePorts(InEditor, Images, InLoop, InLog), InLog),
+          Endpoint(InLoop, InEditor.McpPorts(Images, InLoop.GameThread(), InLog), InLog),
           Panel(InLoop, InLog, [this](const std::string& Text) { Print(Text); }),
           Console(InEditor, std::move(SceneFile), [this] { Loop.Stop(); }),
           Input(
@@ -131,7 +121,9 @@ namespace OrvWebBridge
 
     void FOrvServeSession::Print(const std::string& Text)
     {
-        std::fwrite(Text.data(), 1, Text.size(), stdout);
+        // Console answers quote names the user typed; what goes out is valid UTF-8 all the same.
+        const std::string Valid = FOrvUtf8::MakeValid(Text);
+        std::fwrite(Valid.data(), 1, Valid.size(), stdout);
         // Tests and other programs read the URL and the console's answers through a pipe.
         std::fflush(stdout);
     }
