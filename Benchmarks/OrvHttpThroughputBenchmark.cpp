@@ -128,15 +128,7 @@ namespace
         FOrvHostServer() : Log(false, Quiet())
         {
             FOrvSceneFile::LoadText(std::string(FOrvDemoScene::SceneJson()), "demo room", Editor);
-            const FOrvMcpPorts Ports{Editor.World(),
-                                     Editor.Editing(),
-                                     Editor.Transactions(),
-                                     Editor.Assets(),
-                                     Editor.Meshes(),
-                                     Editor.Viewport(),
-                                     Jpeg,
-                                     Loop.GameThread(),
-                                     Log};
+            const FOrvMcpPorts Ports = Editor.McpPorts(Jpeg, Loop.GameThread(), Log);
             Endpoint = std::make_unique<FOrvHostMcpEndpoint>(Loop, Ports, Log);
             std::string Error;
             if (!Endpoint->Start(0, Error))

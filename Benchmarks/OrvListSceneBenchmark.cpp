@@ -96,8 +96,7 @@ static void BM_ListSceneOurs(benchmark::State& State)
     FOrvQuietLog Log;
     FOrvFakeImageWrapperModule Images;
     FOrvMemoryEditor& Editor = Level.Editor;
-    FOrvMcpHandler Handler({Editor.World(), Editor.Editing(), Editor.Transactions(), Editor.Assets(),
-                            Editor.Meshes(), Editor.Viewport(), Images, GameThread, Log});
+    FOrvMcpHandler Handler(Editor.McpPorts(Images, GameThread, Log));
     std::size_t Bytes = 0;
     for (auto _ : State)
     {

@@ -8,7 +8,7 @@ packages=(
     rapidjson-dev libboost1.81-dev libturbojpeg0-dev libcli11-dev
     libgtest-dev libgmock-dev libbenchmark-dev
     clang-format wrk chromium
-    clang mingw-w64
+    clang mingw-w64 libclang-rt-14-dev
 )
 missing=()
 for package in "${packages[@]}"; do

@@ -1,9 +1,8 @@
 #include "Host/Catalog/OrvOfflineCatalogApi.h"
 
 #include "Core/Json/OrvJson.h"
+#include "Host/Runtime/OrvInputFile.h"
 
-#include <fstream>
-#include <sstream>
 #include <unordered_set>
 
 namespace OrvWebBridge
@@ -51,16 +50,15 @@ namespace OrvWebBridge
 
     FOrvOfflineCatalogLoad FOrvOfflineCatalogApi::LoadFile(const std::string& FilePath)
     {
-        std::ifstream Stream(FilePath, std::ios::binary);
-        if (!Stream)
+        std::string Text;
+        std::string Error;
+        if (!FOrvInputFile::Read(FilePath, Text, Error))
         {
             Records.SetArray();
             IndexById.clear();
-            return {false, FilePath + ": cannot be read"};
+            return {false, Error};
         }
-        std::ostringstream Text;
-        Text << Stream.rdbuf();
-        return LoadText(Text.str(), FilePath);
+        return LoadText(Text, FilePath);
     }
 
     FOrvOfflineCatalogLoad FOrvOfflineCatalogApi::LoadText(std::string_view Text,
@@ -70,10 +68,10 @@ namespace OrvWebBridge
         IndexById.clear();
 
         rapidjson::Document Parsed;
-        Parsed.Parse(Text.data(), Text.size());
-        if (Parsed.HasParseError())
+        FOrvJsonParseError ParseError;
+        if (!FOrvJson::Parse(Text, Parsed, &ParseError))
         {
-            return {false, SourceName + ": " + FOrvJson::DescribeParseError(Text, Parsed)};
+            return {false, SourceName + ": " + FOrvJson::DescribeParseError(Text, ParseError)};
         }
         const bool bBareArray = Parsed.IsArray();
         const rapidjson::Value* List = bBareArray ? &Parsed : nullptr;

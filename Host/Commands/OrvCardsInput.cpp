@@ -34,11 +34,10 @@ namespace OrvWebBridge
         }
         // Full precision so numbers print as the engine's reader (strtod) would have read them; records
         // must be valid UTF-8 because the cards copy their text into the output unchanged.
-        Document.Parse<rapidjson::kParseFullPrecisionFlag | rapidjson::kParseValidateEncodingFlag>(
-            Text.data(), Text.size());
-        if (Document.HasParseError())
+        FOrvJsonParseError ParseError;
+        if (!FOrvJson::Parse(Text, Document, &ParseError, {.bValidateUtf8 = true, .bFullPrecision = true}))
         {
-            OutError = "invalid JSON at " + FOrvJson::DescribeParseError(Text, Document);
+            OutError = "invalid JSON at " + FOrvJson::DescribeParseError(Text, ParseError);
             return false;
         }
 

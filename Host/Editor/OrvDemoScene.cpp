@@ -6,7 +6,8 @@
 // armchairs, pendants, wall lamps and cushions are placed more than once; the stool, the table lamp and
 // a second "SM_Chair" (another brand's, in another folder) are imported but not placed. The side table
 // carries a tag that is no longer valid, and the display plinth holds an untagged mesh before a tagged
-// vase. Walls, plinth and light are architecture, not catalogue products.
+// vase. Walls, plinth and light are architecture, not catalogue products. Four material instances are the
+// catalogue's finishes (an "Orv_FinishID" in their package metadata); the sand wool was never tagged.
 #include "Host/Editor/OrvDemoScene.h"
 
 namespace OrvWebBridge
@@ -20,7 +21,7 @@ namespace OrvWebBridge
         {"path": "/Game/ORVESSA/FormaNova/Arco/Meshes/SM_DiningTable", "bounds": {"min": [-110, -50, 0], "max": [110, 50, 75]}, "tag": {"id": "FNV-TB-2040", "valid": true}},
         {"path": "/Game/ORVESSA/FormaNova/Arco/Meshes/SM_Chair", "bounds": {"min": [-23, -26, 0], "max": [23, 26, 82]}, "tag": {"id": "FNV-CH-1102", "valid": true}},
         {"path": "/Game/ORVESSA/FormaNova/Arco/Textures/T_Oak_Natural_D", "class": "/Script/Engine.Texture2D"},
-        {"path": "/Game/ORVESSA/FormaNova/Arco/Materials/MI_Oak_Natural", "class": "/Script/Engine.MaterialInstanceConstant"},
+        {"path": "/Game/ORVESSA/FormaNova/Arco/Materials/MI_Oak_Natural", "class": "/Script/Engine.MaterialInstanceConstant", "metadata": {"Orv_FinishID": "FIN-OAK-NAT"}},
         {"path": "/Game/ORVESSA/FormaNova/Arco/Meshes/SM_Stool", "bounds": {"min": [-18, -18, 0], "max": [18, 18, 65]}, "tag": {"id": "FNV-ST-1150", "valid": true}},
         {"path": "/Game/ORVESSA/FormaNova/Archivio/Meshes/SM_SideTable_Old", "bounds": {"min": [-25, -25, 0], "max": [25, 25, 55]}, "tag": {"id": "FNV-ST-0999", "valid": false}},
         {"path": "/Game/ORVESSA/AtelierBrera/Onda/Meshes/SM_Sofa", "bounds": {"min": [-110, -48, 0], "max": [110, 48, 78]}, "tag": {"id": "ATB-SF-3300", "valid": true}},
@@ -39,6 +40,9 @@ namespace OrvWebBridge
         {"path": "/Game/ORVESSA/TessileMori/Dune/Meshes/SM_Rug", "bounds": {"min": [-120, -85, 0], "max": [120, 85, 1]}, "tag": {"id": "TSM-RG-0088", "valid": true}},
         {"path": "/Game/ORVESSA/TessileMori/Righe/Meshes/SM_Cushion", "bounds": {"min": [-25, -8, 0], "max": [25, 8, 45]}, "tag": {"id": "TSM-CU-0091", "valid": true}},
         {"path": "/Game/ORVESSA/TessileMori/Dune/Materials/MI_Wool_Sand", "class": "/Script/Engine.MaterialInstanceConstant"},
+        {"path": "/Game/ORVESSA/PietraViva/Sasso/Materials/MI_Marble_Carrara", "class": "/Script/Engine.MaterialInstanceConstant", "metadata": {"Orv_FinishID": "FIN-MAR-CAR"}},
+        {"path": "/Game/ORVESSA/AtelierBrera/Onda/Materials/MI_Boucle_Ivory", "class": "/Script/Engine.MaterialInstanceConstant", "metadata": {"Orv_FinishID": "FIN-BOU-IVO"}},
+        {"path": "/Game/ORVESSA/LineaStudio/Riga/Materials/MI_Ash_Black", "class": "/Script/Engine.MaterialInstanceConstant", "metadata": {"Orv_FinishID": "FIN-ASH-BLK"}},
         {"path": "/Game/Architecture/Walls/SM_Wall_700", "bounds": {"min": [-350, -20, 0], "max": [350, 0, 300]}},
         {"path": "/Game/Architecture/Walls/SM_Wall_500", "bounds": {"min": [-250, -20, 0], "max": [250, 0, 300]}},
         {"path": "/Game/Architecture/Props/SM_Plinth", "bounds": {"min": [-20, -20, 0], "max": [20, 20, 90]}}

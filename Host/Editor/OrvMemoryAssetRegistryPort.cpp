@@ -17,4 +17,11 @@ namespace OrvWebBridge
     {
         return Context.Assets.FindMeshByAsset(Asset);
     }
+
+    std::optional<std::string>
+    FOrvMemoryAssetRegistryPort::LoadMaterialInstanceMetaData(const FOrvAssetData& Asset,
+                                                              std::string_view Key)
+    {
+        return Context.Assets.FindMaterialInstanceMetaData(Asset, Key);
+    }
 } // namespace OrvWebBridge

@@ -22,9 +22,50 @@ namespace OrvWebBridge
         return Ref;
     }
 
-    bool FOrvMemoryAssetStore::AddAsset(const FOrvAssetData& Asset)
+    bool FOrvMemoryAssetStore::AddAsset(const FOrvAssetData& Asset, FOrvMemoryMetaData MetaData)
     {
-        return !Asset.PackageName.empty() && Register(Asset);
+        if (Asset.PackageName.empty() || !Register(Asset))
+        {
+            return false;
+        }
+        if (!MetaData.empty())
+        {
+            MetaDataByPackage.emplace(FOrvObjectNames::Key(Asset.PackageName), std::move(MetaData));
+        }
+        return true;
+    }
+
+    const FOrvAssetData* FOrvMemoryAssetStore::FindAsset(std::string_view PackageName) const
+    {
+        const auto It = RegistryByPackage.find(FOrvObjectNames::Key(PackageName));
+        return It == RegistryByPackage.end() ? nullptr : &Registry[It->second];
+    }
+
+    const FOrvMemoryMetaData& FOrvMemoryAssetStore::GetMetaData(std::string_view PackageName) const
+    {
+        static const FOrvMemoryMetaData None;
+        const auto It = MetaDataByPackage.find(FOrvObjectNames::Key(PackageName));
+        return It == MetaDataByPackage.end() ? None : It->second;
+    }
+
+    std::optional<std::string> FOrvMemoryAssetStore::FindMaterialInstanceMetaData(const FOrvAssetData& Asset,
+                                                                                  std::string_view Key) const
+    {
+        // Loading goes by object path "Package.Asset", so both parts must name the registered asset.
+        const FOrvAssetData* Found = FindAsset(Asset.PackageName);
+        if (!Found || !FOrvStrings::EqualsIgnoreCase(Found->AssetName, Asset.AssetName) ||
+            !FOrvStrings::EqualsIgnoreCase(Found->ClassPath, MaterialInstanceClassPath))
+        {
+            return std::nullopt;
+        }
+        for (const auto& [Name, Value] : GetMetaData(Asset.PackageName))
+        {
+            if (FOrvStrings::EqualsIgnoreCase(Name, Key))
+            {
+                return Value;
+            }
+        }
+        return std::string();
     }
 
     bool FOrvMemoryAssetStore::Register(const FOrvAssetData& Asset)

@@ -20,12 +20,26 @@ namespace OrvWebBridge
     {
     public:
         static constexpr std::string_view StaticMeshClassPath = "/Script/Engine.StaticMesh";
+        static constexpr std::string_view MaterialInstanceClassPath =
+            "/Script/Engine.MaterialInstanceConstant";
 
         /** Registers a static mesh; null when the package name is empty or already registered. */
         FOrvMeshRef AddStaticMesh(const FOrvMemoryMeshDesc& Mesh);
 
-        /** Registers a non-mesh asset; false when its package name is empty or already registered. */
-        bool AddAsset(const FOrvAssetData& Asset);
+        /** Registers a non-mesh asset and its package metadata; false when its package name is empty or
+         *  already registered. */
+        bool AddAsset(const FOrvAssetData& Asset, FOrvMemoryMetaData MetaData = {});
+
+        /** The registered asset of a package name (ignoring case), or null. */
+        const FOrvAssetData* FindAsset(std::string_view PackageName) const;
+
+        /** The package's metadata; empty for a package without any. */
+        const FOrvMemoryMetaData& GetMetaData(std::string_view PackageName) const;
+
+        /** What loading the asset as a material instance and reading its metadata under Key answers:
+         *  nothing unless it is a registered material instance, "" when the key is absent. */
+        std::optional<std::string> FindMaterialInstanceMetaData(const FOrvAssetData& Asset,
+                                                                std::string_view Key) const;
 
         /** Every asset in registration order. */
         const std::vector<FOrvAssetData>& GetRegisteredAssets() const { return Registry; }
@@ -54,7 +68,8 @@ namespace OrvWebBridge
         std::vector<FOrvAssetData> Registry;
         std::deque<FOrvMemoryMeshDesc>
             Meshes; ///< mesh ref N is Meshes[N - 1]; a deque keeps FindMesh pointers valid
-        std::unordered_map<std::string, std::size_t> RegistryByPackage; ///< lower-case package name
-        std::unordered_map<std::string, FOrvMeshRef> MeshByPackage;     ///< lower-case package name
+        std::unordered_map<std::string, std::size_t> RegistryByPackage;        ///< lower-case package name
+        std::unordered_map<std::string, FOrvMeshRef> MeshByPackage;            ///< lower-case package name
+        std::unordered_map<std::string, FOrvMemoryMetaData> MetaDataByPackage; ///< lower-case package name
     };
 } // namespace OrvWebBridge

@@ -14,6 +14,8 @@ namespace OrvWebBridge
         FOrvMemoryAssetRegistryPort Assets{Context};
         FOrvMemoryStaticMeshesPort Meshes{Context};
         FOrvMemoryViewportPort Viewport{Context};
+        FOrvMemoryContentBrowserPort ContentBrowser{Context};
+        FOrvMemoryWidgetFocusPort WidgetFocus{Context};
     };
 
     FOrvMemoryEditor::FOrvMemoryEditor() : State(std::make_unique<FState>())
@@ -28,9 +30,9 @@ namespace OrvWebBridge
         return State->Context.Assets.AddStaticMesh(Mesh);
     }
 
-    void FOrvMemoryEditor::AddAsset(const FOrvAssetData& Asset)
+    void FOrvMemoryEditor::AddAsset(const FOrvAssetData& Asset, FOrvMemoryMetaData MetaData)
     {
-        State->Context.Assets.AddAsset(Asset);
+        State->Context.Assets.AddAsset(Asset, std::move(MetaData));
     }
 
     FOrvActorRef FOrvMemoryEditor::AddActor(const FOrvMemoryActorDesc& Actor)
@@ -100,6 +102,54 @@ namespace OrvWebBridge
     std::vector<FOrvAssetData> FOrvMemoryEditor::GetRegisteredAssets() const
     {
         return State->Context.Assets.GetRegisteredAssets();
+    }
+
+    FOrvMemoryMetaData FOrvMemoryEditor::GetMetaData(const std::string& PackageName) const
+    {
+        return State->Context.Assets.GetMetaData(PackageName);
+    }
+
+    void FOrvMemoryEditor::SetContentBrowserSelection(std::vector<FOrvAssetData> Assets)
+    {
+        FOrvMemoryEditorUi& Ui = State->Context.Ui;
+        Ui.ContentBrowserSelection = std::move(Assets);
+        Ui.OnAssetSelectionChanged.Broadcast(Ui.ContentBrowserSelection);
+    }
+
+    std::vector<FOrvAssetData> FOrvMemoryEditor::GetContentBrowserSelection() const
+    {
+        return State->Context.Ui.ContentBrowserSelection;
+    }
+
+    void FOrvMemoryEditor::SetKeyboardFocus(EOrvMemoryFocus Focus)
+    {
+        State->Context.Ui.Focus = Focus;
+    }
+
+    EOrvMemoryFocus FOrvMemoryEditor::GetKeyboardFocus() const
+    {
+        return State->Context.Ui.Focus;
+    }
+
+    std::uint64_t FOrvMemoryEditor::AddSelectionChangedHandler(std::function<void()> Handler)
+    {
+        return State->Context.Ui.OnSelectionChanged.Add(std::move(Handler));
+    }
+
+    void FOrvMemoryEditor::RemoveSelectionChangedHandler(std::uint64_t Handle)
+    {
+        State->Context.Ui.OnSelectionChanged.Remove(Handle);
+    }
+
+    std::uint64_t
+    FOrvMemoryEditor::AddAssetSelectionChangedHandler(std::function<void(std::vector<FOrvAssetData>)> Handler)
+    {
+        return State->Context.Ui.OnAssetSelectionChanged.Add(std::move(Handler));
+    }
+
+    void FOrvMemoryEditor::RemoveAssetSelectionChangedHandler(std::uint64_t Handle)
+    {
+        State->Context.Ui.OnAssetSelectionChanged.Remove(Handle);
     }
 
     std::optional<FOrvMemoryViewportDesc> FOrvMemoryEditor::GetViewport() const
@@ -195,5 +245,21 @@ namespace OrvWebBridge
     IOrvViewport& FOrvMemoryEditor::Viewport()
     {
         return State->Viewport;
+    }
+
+    IOrvContentBrowser& FOrvMemoryEditor::ContentBrowser()
+    {
+        return State->ContentBrowser;
+    }
+
+    IOrvWidgetFocus& FOrvMemoryEditor::WidgetFocus()
+    {
+        return State->WidgetFocus;
+    }
+
+    FOrvMcpPorts FOrvMemoryEditor::McpPorts(IOrvImageWrapperModule& Images, IOrvGameThread& GameThread,
+                                            IOrvLog& Log)
+    {
+        return {World(), Editing(), Transactions(), Assets(), Meshes(), Viewport(), Images, GameThread, Log};
     }
 } // namespace OrvWebBridge

@@ -1,12 +1,19 @@
 #pragma once
 
 #include "Core/Common/OrvTypes.h"
+#include "Core/Mcp/OrvMcpPorts.h"
 #include "Core/Ports/IOrvActorEditing.h"
 #include "Core/Ports/IOrvAssetRegistry.h"
+#include "Core/Ports/IOrvContentBrowser.h"
 #include "Core/Ports/IOrvEditorSelection.h"
 #include "Core/Ports/IOrvEditorWorld.h"
 #include "Core/Ports/IOrvTransactions.h"
 #include "Core/Ports/IOrvViewport.h"
+#include "Core/Ports/IOrvWidgetFocus.h"
+#include "Host/Editor/OrvMemoryEditorUi.h"
+
+#include <cstdint>
+#include <functional>
 
 #include <memory>
 #include <optional>
@@ -22,6 +29,10 @@ namespace OrvWebBridge
         FOrvBox Bounds;          ///< local box, pivot at the origin, centimetres
         std::optional<FOrvProductTag> Tag;
     };
+
+    /** @brief A package's metadata values (key, value) in the order they were set; keys are names, so
+     * they are compared ignoring case. */
+    using FOrvMemoryMetaData = std::vector<std::pair<std::string, std::string>>;
 
     /** @brief An actor to place in the in-memory level. */
     struct FOrvMemoryActorDesc
@@ -75,7 +86,10 @@ namespace OrvWebBridge
      * leaves the level: spawn, destroy, AddActor, and undo/redo that brings one back or takes it away.
      * Without an editor world (SetEditorWorldAvailable(false)) the world ports answer empty and refuse
      * changes; the viewport and the asset registry do not depend on the world. A new editor has an empty
-     * level named "Untitled" and a default perspective viewport (FOrvMemoryViewportDesc{}).
+     * level named "Untitled" and a default perspective viewport (FOrvMemoryViewportDesc{}). Without an editor
+     * world the editor stands for one not yet started (GEditor null): GetSelectedActors answers nothing.
+     * Material instances ("/Script/Engine.MaterialInstanceConstant" assets) load, and their package
+     * metadata reads back; the keyboard focus is on the viewport or the Content Browser.
      */
     class FOrvMemoryEditor
     {
@@ -87,7 +101,8 @@ namespace OrvWebBridge
 
         // Building the project and level (scene files, demo scene, tests). Not undoable.
         FOrvMeshRef AddStaticMesh(const FOrvMemoryMeshDesc& Mesh);
-        void AddAsset(const FOrvAssetData& Asset); ///< a non-mesh asset (material, texture) for the registry
+        /** A non-mesh asset (material, texture) for the registry, with its package metadata. */
+        void AddAsset(const FOrvAssetData& Asset, FOrvMemoryMetaData MetaData = {});
         FOrvActorRef AddActor(const FOrvMemoryActorDesc& Actor); ///< null when the name is taken this session
         void
         SetViewport(const std::optional<FOrvMemoryViewportDesc>& Viewport); ///< nothing: no viewport open
@@ -103,11 +118,24 @@ namespace OrvWebBridge
         std::vector<FOrvMemoryMeshDesc> GetMeshes() const; ///< in registration order
         std::vector<FOrvAssetData> GetNonMeshAssets() const;
         std::vector<FOrvAssetData> GetRegisteredAssets() const; ///< meshes and others, in registry order
+        FOrvMemoryMetaData GetMetaData(const std::string& PackageName) const; ///< empty for none
         std::optional<FOrvMemoryViewportDesc> GetViewport() const;
         std::vector<FOrvActorRef> GetSelectedActors() const;
         int GetSelectionChangeNotifications() const; ///< how often NoteSelectionChange was called
         std::string GetMapName() const;
         bool IsEditorWorldAvailable() const;
+
+        // The panels around the level. The editor tells the selection handlers on NoteSelectionChange and
+        // the asset-selection handlers on every Content Browser selection, as the engine's events do.
+        void SetContentBrowserSelection(std::vector<FOrvAssetData> Assets);
+        std::vector<FOrvAssetData> GetContentBrowserSelection() const;
+        void SetKeyboardFocus(EOrvMemoryFocus Focus);
+        EOrvMemoryFocus GetKeyboardFocus() const;
+        std::uint64_t AddSelectionChangedHandler(std::function<void()> Handler);
+        void RemoveSelectionChangedHandler(std::uint64_t Handle);
+        std::uint64_t
+        AddAssetSelectionChangedHandler(std::function<void(std::vector<FOrvAssetData>)> Handler);
+        void RemoveAssetSelectionChangedHandler(std::uint64_t Handle);
 
         // Undo buffer.
         bool Undo();                                                ///< false when there is nothing to undo
@@ -126,6 +154,11 @@ namespace OrvWebBridge
         IOrvAssetRegistry& Assets();
         IOrvStaticMeshes& Meshes();
         IOrvViewport& Viewport();
+        IOrvContentBrowser& ContentBrowser();
+        IOrvWidgetFocus& WidgetFocus();
+
+        /** The ports the AI tools use, this editor's together with the given encoder, game thread and log. */
+        FOrvMcpPorts McpPorts(IOrvImageWrapperModule& Images, IOrvGameThread& GameThread, IOrvLog& Log);
 
     private:
         struct FState;

@@ -22,6 +22,7 @@ namespace OrvWebBridge
         FOrvMemoryAssetStore Assets;
         FOrvMemoryUndoBuffer UndoBuffer{Level};
         std::optional<FOrvMemoryViewportDesc> Viewport;
+        FOrvMemoryEditorUi Ui;
     };
 
     // One adapter per port, each implemented in its own file (OrvMemory<Port>Port.cpp).
@@ -89,6 +90,7 @@ namespace OrvWebBridge
         void SelectNone() override;
         void SelectActor(FOrvActorRef Actor) override;
         void NoteSelectionChange() override;
+        std::optional<std::vector<FOrvActorRef>> GetSelectedActors() const override;
 
     private:
         FOrvMemoryEditorContext& Context;
@@ -103,6 +105,8 @@ namespace OrvWebBridge
                                                    bool bRecursive) const override;
         FOrvMeshRef LoadStaticMesh(std::string_view ObjectPath) override;
         FOrvMeshRef LoadStaticMeshAsset(const FOrvAssetData& Asset) override;
+        std::optional<std::string> LoadMaterialInstanceMetaData(const FOrvAssetData& Asset,
+                                                                std::string_view Key) override;
 
     private:
         const FOrvMemoryEditorContext& Context;
@@ -118,6 +122,34 @@ namespace OrvWebBridge
         std::string GetMeshPathName(FOrvMeshRef Mesh) const override;
         FOrvBox GetBoundingBox(FOrvMeshRef Mesh) const override;
         std::optional<FOrvProductTag> GetProductTag(FOrvMeshRef Mesh) const override;
+        std::optional<std::vector<FOrvAssetUserData>> GetAssetUserData(FOrvMeshRef Mesh) const override;
+
+    private:
+        const FOrvMemoryEditorContext& Context;
+    };
+
+    class FOrvMemoryContentBrowserPort : public IOrvContentBrowser
+    {
+    public:
+        explicit FOrvMemoryContentBrowserPort(const FOrvMemoryEditorContext& InContext) : Context(InContext)
+        {
+        }
+
+        std::vector<FOrvAssetData> GetSelectedAssets() const override
+        {
+            return Context.Ui.ContentBrowserSelection;
+        }
+
+    private:
+        const FOrvMemoryEditorContext& Context;
+    };
+
+    class FOrvMemoryWidgetFocusPort : public IOrvWidgetFocus
+    {
+    public:
+        explicit FOrvMemoryWidgetFocusPort(const FOrvMemoryEditorContext& InContext) : Context(InContext) {}
+
+        std::vector<std::string> GetFocusedWidgetTypes() const override;
 
     private:
         const FOrvMemoryEditorContext& Context;

@@ -19,5 +19,16 @@ namespace OrvWebBridge
     void FOrvMemorySelectionPort::NoteSelectionChange()
     {
         Context.Level.NoteSelectionChange();
+        Context.Ui.OnSelectionChanged.Broadcast();
+    }
+
+    std::optional<std::vector<FOrvActorRef>> FOrvMemorySelectionPort::GetSelectedActors() const
+    {
+        // Without an editor world the in-memory editor stands for one that has not started yet.
+        if (!Context.Level.bWorldAvailable)
+        {
+            return std::nullopt;
+        }
+        return Context.Level.GetSelection();
     }
 } // namespace OrvWebBridge

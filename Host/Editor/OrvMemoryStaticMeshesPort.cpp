@@ -36,4 +36,21 @@ namespace OrvWebBridge
         const FOrvMemoryMeshDesc* Found = Context.Assets.FindMesh(Mesh);
         return Found ? Found->Tag : std::nullopt;
     }
+
+    std::optional<std::vector<FOrvAssetUserData>>
+    FOrvMemoryStaticMeshesPort::GetAssetUserData(FOrvMeshRef Mesh) const
+    {
+        // A static mesh always has its user data array; the import module's tag is its only entry here.
+        const FOrvMemoryMeshDesc* Found = Context.Assets.FindMesh(Mesh);
+        if (!Found)
+        {
+            return std::nullopt;
+        }
+        std::vector<FOrvAssetUserData> Entries;
+        if (Found->Tag)
+        {
+            Entries.push_back({"OrvProductData", Found->Tag});
+        }
+        return Entries;
+    }
 } // namespace OrvWebBridge

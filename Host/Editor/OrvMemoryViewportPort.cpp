@@ -1,5 +1,7 @@
 #include "Host/Editor/OrvMemoryEditorPorts.h"
 
+#include "Core/Tools/OrvViewportCapture.h"
+
 namespace OrvWebBridge
 {
     namespace
@@ -52,6 +54,13 @@ namespace OrvWebBridge
             RenderFrame(Camera);
         }
         Out.assign(Frame.begin(), Frame.end());
+        if (Frame.size() > FOrvViewportCapture::MaxKeptPixels)
+        {
+            // As the capture does with its own buffer: a frame this large is not kept for the next read.
+            std::vector<FOrvColor>().swap(Frame);
+            Renderer.ReleaseBuffers();
+            bHasFrame = false;
+        }
         return true;
     }
 

@@ -6,13 +6,10 @@
 #include "Host/Editor/OrvSceneFile.h"
 #include "Host/Editor/OrvSceneFileSchema.h"
 #include "Host/Editor/OrvSceneJsonReader.h"
+#include "Host/Runtime/OrvInputFile.h"
 
 #include "Core/Json/OrvRapidJson.h"
 
-#include <cerrno>
-#include <cstring>
-#include <fstream>
-#include <sstream>
 #include <unordered_map>
 
 namespace OrvWebBridge
@@ -38,10 +35,14 @@ namespace OrvWebBridge
             FOrvSceneFileResult Read(const std::string& Text)
             {
                 rapidjson::Document Document;
-                Document.Parse<rapidjson::kParseValidateEncodingFlag>(Text.data(), Text.size());
-                if (Document.HasParseError() || !Document.IsObject())
+                // Numbers correctly rounded, as the writer's shortest form assumes: a scene saved and
+                // loaded again keeps every number to the last bit.
+                FOrvJsonParseError ParseError;
+                if (!FOrvJson::Parse(Text, Document, &ParseError,
+                                     {.bValidateUtf8 = true, .bFullPrecision = true}) ||
+                    !Document.IsObject())
                 {
-                    return {false, SourceName + ": " + FOrvJson::DescribeParseError(Text, Document)};
+                    return {false, SourceName + ": " + FOrvJson::DescribeParseError(Text, ParseError)};
                 }
                 const bool bOk = ReadRoot(Document);
                 return {bOk, bOk ? std::string() : GetError()};
@@ -117,7 +118,7 @@ namespace OrvWebBridge
 
             bool ReadAsset(const rapidjson::Value& Asset, const std::string& Place)
             {
-                if (!CheckObject(Asset, Place, {"path", "class", "bounds", "tag"}))
+                if (!CheckObject(Asset, Place, {"path", "class", "bounds", "tag", "metadata"}))
                 {
                     return false;
                 }
@@ -156,12 +157,22 @@ namespace OrvWebBridge
                     {
                         return Fail(Place, "only static meshes have \"bounds\" and \"tag\"");
                     }
+                    FOrvMemoryMetaData MetaData;
+                    if (!ReadNamedTexts(Asset, "metadata", Place, MetaData))
+                    {
+                        return false;
+                    }
                     Editor.AddAsset({Package, std::string(FOrvObjectNames::PackagePath(Package)),
-                                     std::string(FOrvObjectNames::ShortPackageName(Package)), ClassPath});
+                                     std::string(FOrvObjectNames::ShortPackageName(Package)), ClassPath},
+                                    std::move(MetaData));
                     AssetsByPackage.emplace(Key, FOrvSceneAssetEntry{{}, ClassPath, Place});
                     return true;
                 }
 
+                if (FOrvJson::FindField(Asset, "metadata"))
+                {
+                    return Fail(Place, "static meshes take no \"metadata\" (their product tag is \"tag\")");
+                }
                 FOrvMemoryMeshDesc Mesh;
                 Mesh.PackageName = Package;
                 if (!ReadBounds(Asset, Place, Mesh.Bounds) || !ReadTag(Asset, Place, Mesh.Tag))
@@ -391,17 +402,12 @@ namespace OrvWebBridge
 
     FOrvSceneFileResult FOrvSceneFile::Load(const std::string& FilePath, FOrvMemoryEditor& Editor)
     {
-        std::ifstream File(FilePath, std::ios::binary);
-        if (!File)
+        std::string Text;
+        std::string Error;
+        if (!FOrvInputFile::Read(FilePath, Text, Error))
         {
-            return {false, FilePath + ": cannot open: " + std::strerror(errno)};
+            return {false, Error};
         }
-        std::ostringstream Text;
-        Text << File.rdbuf();
-        if (File.bad())
-        {
-            return {false, FilePath + ": cannot read: " + std::strerror(errno)};
-        }
-        return LoadText(Text.str(), FilePath, Editor);
+        return LoadText(Text, FilePath, Editor);
     }
 } // namespace OrvWebBridge

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Core/Tools/OrvViewportCapture.h"
+
 #include <string_view>
 
 namespace OrvWebBridge
@@ -11,6 +13,6 @@ namespace OrvWebBridge
         static constexpr std::string_view DefaultMapName = "Untitled";
         static constexpr std::string_view StaticMeshClassPath = "/Script/Engine.StaticMesh";
         static constexpr std::string_view StaticMeshActorClass = "StaticMeshActor";
-        static constexpr int MaxViewportSide = 16384;
+        static constexpr int MaxViewportSide = FOrvViewportCapture::MaxSide;
     };
 } // namespace OrvWebBridge

@@ -47,12 +47,24 @@ namespace OrvWebBridge
             return JsonTriple(Rotator.Pitch, Rotator.Yaw, Rotator.Roll);
         }
 
-        std::string AssetLine(const FOrvAssetData& Asset, const FOrvMemoryMeshDesc* Mesh)
+        std::string MetaDataText(const FOrvMemoryMetaData& MetaData)
+        {
+            std::string Text = "{";
+            for (const auto& [Name, Value] : MetaData)
+            {
+                Text += (Text.size() > 1 ? ", " : "") + JsonString(Name) + ": " + JsonString(Value);
+            }
+            return Text + "}";
+        }
+
+        std::string AssetLine(const FOrvAssetData& Asset, const FOrvMemoryMeshDesc* Mesh,
+                              const FOrvMemoryMetaData& MetaData)
         {
             std::string Line = "{\"path\": " + JsonString(Asset.PackageName);
             if (!Mesh)
             {
-                return Line + ", \"class\": " + JsonString(Asset.ClassPath) + "}";
+                Line += ", \"class\": " + JsonString(Asset.ClassPath);
+                return Line + (MetaData.empty() ? "" : ", \"metadata\": " + MetaDataText(MetaData)) + "}";
             }
             Line += ", \"bounds\": {\"min\": " + JsonVector(Mesh->Bounds.Min) +
                     ", \"max\": " + JsonVector(Mesh->Bounds.Max) + "}";
@@ -133,10 +145,11 @@ namespace OrvWebBridge
             Out += "    \"editor_world\": false,\n";
         }
         AppendArray(Out, "assets", Editor.GetRegisteredAssets(),
-                    [&MeshByPackage](const FOrvAssetData& Asset)
+                    [&MeshByPackage, &Editor](const FOrvAssetData& Asset)
                     {
                         const auto It = MeshByPackage.find(Asset.PackageName);
-                        return AssetLine(Asset, It != MeshByPackage.end() ? It->second : nullptr);
+                        return AssetLine(Asset, It != MeshByPackage.end() ? It->second : nullptr,
+                                         Editor.GetMetaData(Asset.PackageName));
                     });
         AppendArray(Out, "actors", Editor.GetLevelActors(),
                     [&Editor](const FOrvMemoryActor* Actor) { return ActorLine(*Actor, Editor); });

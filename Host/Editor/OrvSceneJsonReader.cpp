@@ -1,5 +1,6 @@
 #include "Host/Editor/OrvSceneJsonReader.h"
 
+#include "Core/Common/OrvStrings.h"
 #include "Core/Json/OrvJson.h"
 
 #include <algorithm>
@@ -108,5 +109,43 @@ namespace OrvWebBridge
                                           const std::string& Place, FOrvRotator& Out)
     {
         return ReadTriple(Object, Key, Place, Out.Pitch, Out.Yaw, Out.Roll);
+    }
+
+    bool FOrvSceneJsonReader::ReadNamedTexts(const rapidjson::Value& Object, std::string_view Key,
+                                             const std::string& Place,
+                                             std::vector<std::pair<std::string, std::string>>& Out)
+    {
+        const rapidjson::Value* Texts = FOrvJson::FindField(Object, Key);
+        if (!Texts)
+        {
+            return true;
+        }
+        const std::string TextsPlace = Join(Place, Key);
+        if (!Texts->IsObject())
+        {
+            return Fail(TextsPlace, "expected an object of text values, e.g. {\"Orv_FinishID\": \"F-01\"}");
+        }
+        for (auto Member = Texts->MemberBegin(); Member != Texts->MemberEnd(); ++Member)
+        {
+            const std::string Name(Member->name.GetString(), Member->name.GetStringLength());
+            if (Name.empty())
+            {
+                return Fail(TextsPlace, "names must not be empty");
+            }
+            if (!Member->value.IsString())
+            {
+                return Fail(Join(TextsPlace, Name), "expected a string");
+            }
+            for (const auto& Listed : Out)
+            {
+                if (FOrvStrings::EqualsIgnoreCase(Listed.first, Name))
+                {
+                    return Fail(Join(TextsPlace, Name),
+                                "repeats " + Quoted(Listed.first) + " (names ignore case)");
+                }
+            }
+            Out.emplace_back(Name, std::string(Member->value.GetString(), Member->value.GetStringLength()));
+        }
+        return true;
     }
 } // namespace OrvWebBridge

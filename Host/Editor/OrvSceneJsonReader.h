@@ -8,6 +8,8 @@
 #include <initializer_list>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 namespace OrvWebBridge
 {
@@ -50,6 +52,11 @@ namespace OrvWebBridge
                         FOrvVector& Out);
         bool ReadRotator(const rapidjson::Value& Object, std::string_view Key, const std::string& Place,
                          FOrvRotator& Out);
+
+        /** An object of text values under names that ignore case ({"Orv_FinishID": "F-01"}), in file order;
+         *  a name repeated in another case is an error. */
+        bool ReadNamedTexts(const rapidjson::Value& Object, std::string_view Key, const std::string& Place,
+                            std::vector<std::pair<std::string, std::string>>& Out);
 
     private:
         /** An optional member: absent leaves Out as it is; present must pass IsType, else Expected is

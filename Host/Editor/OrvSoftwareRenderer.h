@@ -42,6 +42,9 @@ namespace OrvWebBridge
          */
         static FOrvColor TintFor(std::string_view Key);
 
+        /** Frees the depth buffer kept between frames (after a frame too large to keep). */
+        void ReleaseBuffers() { std::vector<float>().swap(Depth); }
+
     private:
         std::vector<float> Depth; ///< kept between frames; larger is nearer
     };

@@ -1,5 +1,7 @@
 #include "Host/Editor/OrvTurboJpegModule.h"
 
+#include "Core/Tools/OrvViewportCapture.h"
+
 #include <turbojpeg.h>
 
 #include <algorithm>
@@ -45,6 +47,8 @@ namespace OrvWebBridge
     namespace
     {
         constexpr std::int32_t MaxJpegSide = 65535; ///< the JPEG header's 16-bit limit
+        constexpr int MaxKeptSide = 4096;           ///< FOrvViewportCapture::MaxKeptPixels as a square
+        static_assert(std::size_t{MaxKeptSide} * MaxKeptSide == FOrvViewportCapture::MaxKeptPixels);
 
         class FOrvTurboJpegWrapper : public IOrvImageWrapper
         {
@@ -52,6 +56,17 @@ namespace OrvWebBridge
             explicit FOrvTurboJpegWrapper(std::shared_ptr<FOrvTurboJpegModule::FEncoder> InEncoder)
                 : Encoder(std::move(InEncoder))
             {
+            }
+
+            // The output buffer of a picture larger than the capture keeps its pixels for is not kept either.
+            ~FOrvTurboJpegWrapper() override
+            {
+                if (Encoder->Capacity > tjBufSize(MaxKeptSide, MaxKeptSide, TJSAMP_420))
+                {
+                    tjFree(Encoder->Buffer);
+                    Encoder->Buffer = nullptr;
+                    Encoder->Capacity = 0;
+                }
             }
 
             bool SetRaw(const void* Data, std::int64_t SizeInBytes, std::int32_t Width,

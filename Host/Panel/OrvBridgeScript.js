@@ -77,8 +77,10 @@
             Chain = Chain.then(() => Handle(Event.data)).catch((Error) => console.error(Error));
         });
     }
-    // Cookies the editor set while no page listened arrive as soon as one does.
+    // Cookies the editor set while no page listened arrive as soon as one does; what else the page shows
+    // of the editor's state can catch up then too.
     Events.addEventListener("open", () => {
         Chain = Chain.then(SyncCookies).catch((Error) => console.error(Error));
+        window.dispatchEvent(new Event("orv-panel-connected"));
     });
 })();

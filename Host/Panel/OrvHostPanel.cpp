@@ -17,9 +17,7 @@
 #include "Host/Panel/OrvPanelWindows.h"
 #include "Host/Runtime/OrvHostEventLoop.h"
 #include "Host/Runtime/OrvHostHttpRouter.h"
-
-#include <fstream>
-#include <sstream>
+#include "Host/Runtime/OrvInputFile.h"
 
 namespace OrvWebBridge
 {
@@ -74,12 +72,9 @@ namespace OrvWebBridge
     bool FOrvHostPanel::Start(const FOrvHostPanelOptions& Options, std::string& Error)
     {
         std::string Text(FOrvDemoScene::CatalogJson());
-        if (!Options.CatalogFile.empty())
+        if (!Options.CatalogFile.empty() && !FOrvInputFile::Read(Options.CatalogFile, Text, Error))
         {
-            std::ifstream Stream(Options.CatalogFile, std::ios::binary);
-            std::ostringstream Read;
-            Read << Stream.rdbuf();
-            Text = Read.str();
+            return false;
         }
         FOrvPanelCatalog Catalog;
         std::string Problem;
@@ -106,17 +101,9 @@ namespace OrvWebBridge
         Built->Account.SetEvents(Built->Relay.get());
         if (Options.SiteDir.empty())
         {
-            FOrvPanelServer& Server = Built->Server;
-            Server.GetRouter()->BindRoute(
-                "/oauth/sign-in", EOrvHttpVerb::Post,
-                [&Server](const FOrvHttpRequest& Request, const FOrvHttpResultCallback& OnComplete)
-                {
-                    const bool bAllowed =
-                        Server.IsAllowed(Request, FOrvPanelServer::EOrvPanelAccess::PanelCall);
-                    OnComplete(bAllowed ? FOrvDemoSiteSignIn::Answer(Request.Body)
-                                        : FOrvPanelServer::Forbidden());
-                    return true;
-                });
+            Built->Server.BindAnswer(
+                "/oauth/sign-in", EOrvHttpVerb::Post, FOrvPanelServer::EOrvPanelAccess::PanelCall,
+                [](const FOrvHttpRequest& Request) { return FOrvDemoSiteSignIn::Answer(Request.Body); });
         }
         Parts = std::move(Built);
         return true;
@@ -139,6 +126,16 @@ namespace OrvWebBridge
     IOrvCatalogAccount* FOrvHostPanel::GetAccount() const
     {
         return Parts ? &Parts->Account : nullptr;
+    }
+
+    FOrvPanelPage* FOrvHostPanel::GetPage() const
+    {
+        return Parts ? &Parts->Page : nullptr;
+    }
+
+    FOrvPanelServer* FOrvHostPanel::GetServer() const
+    {
+        return Parts ? &Parts->Server : nullptr;
     }
 
     std::string FOrvHostPanel::GetUrl() const

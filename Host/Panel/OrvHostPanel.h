@@ -11,6 +11,8 @@
 namespace OrvWebBridge
 {
     class FOrvHostEventLoop;
+    class FOrvPanelPage;
+    class FOrvPanelServer;
     class FOrvWebPanelSession;
     class IOrvCatalogAccount;
 
@@ -51,6 +53,10 @@ namespace OrvWebBridge
 
         /** The catalogue account the panel signs in to; null before Start. */
         IOrvCatalogAccount* GetAccount() const;
+
+        /** The browser page that is the panel, and the server at its origin; null before Start. */
+        FOrvPanelPage* GetPage() const;
+        FOrvPanelServer* GetServer() const;
 
     private:
         struct FParts;

@@ -10,10 +10,10 @@ namespace OrvWebBridge
     bool FOrvPanelCatalog::Load(std::string_view Text, std::string& Error)
     {
         rapidjson::Document Parsed;
-        Parsed.Parse(Text.data(), Text.size());
-        if (Parsed.HasParseError())
+        FOrvJsonParseError ParseError;
+        if (!FOrvJson::Parse(Text, Parsed, &ParseError))
         {
-            Error = FOrvJson::DescribeParseError(Text, Parsed);
+            Error = FOrvJson::DescribeParseError(Text, ParseError);
             return false;
         }
         const rapidjson::Value* ProductList = Parsed.IsArray() ? &Parsed : nullptr;

@@ -99,21 +99,26 @@ namespace OrvWebBridge
                                       "Forbidden: only the catalogue panel's own pages may do this.\n");
     }
 
+    void FOrvPanelServer::BindAnswer(
+        std::string_view Path, EOrvHttpVerb Verb, EOrvPanelAccess Access,
+        std::function<std::unique_ptr<FOrvHttpResponse>(const FOrvHttpRequest&)> Answer)
+    {
+        // Each handler answers at once: "response or refusal" goes straight to the callback.
+        Router->BindRoute(Path, Verb,
+                          [this, Access, Answer = std::move(Answer)](const FOrvHttpRequest& Request,
+                                                                     const FOrvHttpResultCallback& OnComplete)
+                          {
+                              OnComplete(IsAllowed(Request, Access) ? Answer(Request) : Forbidden());
+                              return true;
+                          });
+    }
+
     void FOrvPanelServer::BindRoutes()
     {
-        // Each handler answers at once: a small helper turns "response or refusal" into the callback.
         const auto Bind =
             [this](std::string_view Path, EOrvHttpVerb Verb, EOrvPanelAccess Access,
                    std::function<std::unique_ptr<FOrvHttpResponse>(const FOrvHttpRequest&)> Answer)
-        {
-            Router->BindRoute(Path, Verb,
-                              [this, Access, Answer = std::move(Answer)](
-                                  const FOrvHttpRequest& Request, const FOrvHttpResultCallback& OnComplete)
-                              {
-                                  OnComplete(IsAllowed(Request, Access) ? Answer(Request) : Forbidden());
-                                  return true;
-                              });
-        };
+        { BindAnswer(Path, Verb, Access, std::move(Answer)); };
 
         Bind(FOrvPanelSite::BridgeScriptPath, EOrvHttpVerb::Get, EOrvPanelAccess::AnyPage,
              [this](const FOrvHttpRequest&)

@@ -3,6 +3,7 @@
 #include "Host/Runtime/OrvBeastHttpServerModule.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -51,6 +52,9 @@ namespace OrvWebBridge
 
         std::uint32_t GetBoundPort() const;
 
+        /** Adds Script to the one that every HTML page of the panel loads (after the bridge's own). */
+        void AppendPageScript(std::string_view Script) { BridgeScript += Script; }
+
         /** The router, for routes of the site's own backend. Null while stopped. */
         FOrvHostHttpRouter* GetRouter() const { return Router.get(); }
 
@@ -64,6 +68,10 @@ namespace OrvWebBridge
 
         /** Whether Request may have what Access guards. */
         bool IsAllowed(const FOrvHttpRequest& Request, EOrvPanelAccess Access) const;
+
+        /** Answers Verb requests for Path with Answer at once, or with 403 for those Access refuses. */
+        void BindAnswer(std::string_view Path, EOrvHttpVerb Verb, EOrvPanelAccess Access,
+                        std::function<std::unique_ptr<FOrvHttpResponse>(const FOrvHttpRequest&)> Answer);
 
         /** The 403 answer for a request from elsewhere. */
         static std::unique_ptr<FOrvHttpResponse> Forbidden();

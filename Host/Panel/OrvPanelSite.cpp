@@ -3,10 +3,9 @@
 #include "Core/Common/OrvStrings.h"
 #include "Host/Panel/OrvPanelCatalog.h"
 #include "Host/Panel/OrvUrlEncoding.h"
+#include "Host/Runtime/OrvInputFile.h"
 
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 
 namespace OrvWebBridge
 {
@@ -49,15 +48,8 @@ namespace OrvWebBridge
 
         bool ReadFile(const fs::path& File, std::string& Out)
         {
-            std::ifstream Stream(File, std::ios::binary);
-            if (!Stream)
-            {
-                return false;
-            }
-            std::ostringstream Text;
-            Text << Stream.rdbuf();
-            Out = Text.str();
-            return true;
+            std::string Unused;
+            return FOrvInputFile::Read(File.string(), Out, Unused);
         }
 
         std::string_view AfterPrefix(std::string_view Path, std::string_view Prefix)

@@ -1,5 +1,7 @@
 #include "Host/Runtime/OrvConsoleLog.h"
 
+#include "Core/Common/OrvUtf8.h"
+
 #include <string>
 
 namespace OrvWebBridge
@@ -31,7 +33,8 @@ namespace OrvWebBridge
             Line += OrvLogVerbosityName(Verbosity);
             Line += ": ";
         }
-        Line += Message;
+        // Messages quote what clients and files sent; the log stays valid UTF-8 all the same.
+        FOrvUtf8::AppendValid(Line, Message);
         return Line;
     }
 } // namespace OrvWebBridge

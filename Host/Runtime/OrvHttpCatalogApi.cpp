@@ -1,6 +1,7 @@
 #include "Host/Runtime/OrvHttpCatalogApi.h"
 
 #include "Core/Common/OrvStrings.h"
+#include "Core/Json/OrvJson.h"
 #include "Host/Runtime/OrvBeast.h"
 #include "Host/Runtime/OrvHostEventLoop.h"
 #include "Host/Runtime/OrvHttpUrl.h"
@@ -181,11 +182,11 @@ namespace OrvWebBridge
                     return;
                 }
                 auto Document = std::make_shared<rapidjson::Document>();
-                Document->Parse(Answer.body().data(), Answer.body().size());
-                if (Document->HasParseError())
+                FOrvJsonParseError ParseError;
+                if (!FOrvJson::Parse(Answer.body(), *Document, &ParseError))
                 {
-                    Fail(std::string("the answer is not JSON: ") +
-                         rapidjson::GetParseError_En(Document->GetParseError()));
+                    Fail("the answer is not JSON: " +
+                         FOrvJson::DescribeParseError(Answer.body(), ParseError));
                     return;
                 }
                 if (!Document->IsObject())

@@ -1,7 +1,9 @@
 #include "Host/Runtime/OrvServeSession.h"
 
-#include "Core/Common/OrvLogging.h"
+#include "Core/Common/OrvUtf8.h"
 #include "Host/Editor/OrvMemoryEditor.h"
+#include "Host/Panel/OrvPanelPage.h"
+#include "Host/Panel/OrvPanelToolbar.h"
 #include "Host/Runtime/OrvHostEventLoop.h"
 
 #include <csignal>
@@ -9,21 +11,10 @@
 
 namespace OrvWebBridge
 {
-    namespace
-    {
-        FOrvMcpPorts MakePorts(FOrvMemoryEditor& Editor, IOrvImageWrapperModule& Images,
-                               FOrvHostEventLoop& Loop, IOrvLog& Log)
-        {
-            return FOrvMcpPorts{Editor.World(),  Editor.Editing(),  Editor.Transactions(),
-                                Editor.Assets(), Editor.Meshes(),   Editor.Viewport(),
-                                Images,          Loop.GameThread(), Log};
-        }
-    } // namespace
-
     FOrvServeSession::FOrvServeSession(FOrvHostEventLoop& InLoop, FOrvMemoryEditor& InEditor,
                                        IOrvImageWrapperModule& Images, IOrvLog& InLog, std::string SceneFile)
         : Loop(InLoop), Editor(InEditor), Log(InLog),
-          Endpoint(InLoop, MakePorts(InEditor, Images, InLoop, InLog), InLog),
+          Endpoint(InLoop, InEditor.McpPorts(Images, InLoop.GameThread(), InLog), InLog),
           Panel(InLoop, InLog, [this](const std::string& Text) { Print(Text); }),
           Console(InEditor, std::move(SceneFile), [this] { Loop.Stop(); }),
           Input(
@@ -33,8 +24,12 @@ namespace OrvWebBridge
 
     FOrvServeSession::~FOrvServeSession()
     {
-        // The outliner's panel unregisters from the editor and the loop's timers while both still exist.
+        // The outliner's panel and the smart panel unregister from the editor, the loop's timers and the
+        // catalogue panel while these still exist.
         Outliner.reset();
+        StopSmartPanel();
+        // The endpoint and the panel stop in the module's shut-down order, if Run did not already.
+        Lifecycle.reset();
     }
 
     bool FOrvServeSession::OpenOutliner(const FOrvCatalogSourceOptions& Catalog, std::string& Error)
@@ -53,24 +48,25 @@ namespace OrvWebBridge
     {
         // Output to a closed pipe must fail as a write error, not end the host.
         std::signal(SIGPIPE, SIG_IGN);
-        std::string McpError;
-        const bool bMcp = Endpoint.Start(Port, McpError);
-        if (!bMcp && !PanelOptions)
+        ModuleHost = std::make_unique<FOrvHostModuleHost>(Endpoint, Panel, PanelOptions);
+        Lifecycle = std::make_unique<FOrvModuleLifecycle>(*ModuleHost, Log, Port);
+        Lifecycle->Startup();
+        const bool bMcp = Lifecycle->IsMcpServerRunning();
+        const bool bPanelFailed = PanelOptions && !Lifecycle->IsStepDone(EOrvModuleStep::CatalogTabSpawner);
+        if (bPanelFailed || (!bMcp && !PanelOptions))
         {
-            Error = McpError;
+            Error = bPanelFailed ? ModuleHost->GetPanelError() : ModuleHost->GetMcpError();
+            Lifecycle->Shutdown();
             return false;
         }
-        if (!bMcp)
+        if (PanelOptions)
         {
-            OrvLogf(Log, EOrvLogCategory::LogTemp, EOrvLogVerbosity::Warning,
-                    "Orv MCP: failed to start server on port %u (port in use? firewall?). Other plugin "
-                    "functionality is unaffected.",
-                    Port);
-        }
-        if (PanelOptions && !Panel.Start(*PanelOptions, Error))
-        {
-            Endpoint.Stop();
-            return false;
+            // Product and finish pages are the panel's own: its origin is the catalogue site.
+            std::string Origin = Panel.GetUrl();
+            Origin.pop_back();
+            SmartPanel = std::make_unique<FOrvServeSmartPanel>(Editor, *Panel.GetPage(), Log, Origin);
+            SmartPanel->AddCommands(Console);
+            PanelToolbar = std::make_unique<FOrvPanelToolbar>(*Panel.GetServer(), *SmartPanel);
         }
         Signals = std::make_unique<FOrvStopSignals>(Loop, [this](int) { Loop.Stop(); });
         if (Outliner)
@@ -101,8 +97,11 @@ namespace OrvWebBridge
         Loop.Run(&Log);
         Input.Stop();
         Signals.reset();
-        Panel.Stop();
-        Endpoint.Stop();
+        StopSmartPanel();
+        if (Lifecycle)
+        {
+            Lifecycle->Shutdown();
+        }
         if (Editor.IsDirty())
         {
             std::fprintf(stderr, "orv-host: the level's unsaved changes were discarded.\n");
@@ -122,8 +121,17 @@ namespace OrvWebBridge
 
     void FOrvServeSession::Print(const std::string& Text)
     {
-        std::fwrite(Text.data(), 1, Text.size(), stdout);
+        // Console answers quote names the user typed; what goes out is valid UTF-8 all the same.
+        const std::string Valid = FOrvUtf8::MakeValid(Text);
+        std::fwrite(Valid.data(), 1, Valid.size(), stdout);
         // Tests and other programs read the URL and the console's answers through a pipe.
         std::fflush(stdout);
+    }
+
+    void FOrvServeSession::StopSmartPanel()
+    {
+        // The loop no longer runs, so the toolbar's routes see no request before the panel's server stops.
+        PanelToolbar.reset();
+        SmartPanel.reset();
     }
 } // namespace OrvWebBridge

@@ -10,10 +10,14 @@ import puppeteer from "puppeteer-core";
 export const HostPath = process.env.ORV_HOST || path.resolve(import.meta.dirname, "../../build/orv-host");
 const ChromiumPath = process.env.ORV_CHROMIUM || "/usr/bin/chromium";
 
-/** Starts "orv-host serve" (MCP on McpPort, the panel on a free port); resolves once its URL lines are out. */
-export async function StartHost({ McpPort = 0 } = {}) {
-    const Args = ["serve", "--port", String(McpPort), "--panel-port", "0", "--no-console"];
-    const Child = spawn(HostPath, Args, { stdio: ["ignore", "pipe", "pipe"] });
+/**
+ * Starts "orv-host serve" (MCP on McpPort, the panel on a free port); resolves once its URL lines are out.
+ * With bConsole, Host.Command(Line, Expect) types a console command and resolves with its answer's line
+ * that matches Expect.
+ */
+export async function StartHost({ McpPort = 0, bConsole = false } = {}) {
+    const Args = ["serve", "--port", String(McpPort), "--panel-port", "0", ...(bConsole ? [] : ["--no-console"])];
+    const Child = spawn(HostPath, Args, { stdio: [bConsole ? "pipe" : "ignore", "pipe", "pipe"] });
     const Host = { Child, Output: [], Errors: "", PanelUrl: "", McpUrl: "" };
     Child.stderr.on("data", (Chunk) => (Host.Errors += Chunk));
     const Lines = createInterface({ input: Child.stdout });
@@ -30,6 +34,12 @@ export async function StartHost({ McpPort = 0 } = {}) {
         });
         Child.on("exit", () => Reject(new Error(`orv-host ended before serving the panel\n${Host.Errors}`)));
     });
+    // A console command, answered when a line of its answer matches Expect: that line.
+    Host.Command = async (Line, Expect) => {
+        const First = Host.Output.length;
+        Child.stdin.write(`${Line}\n`);
+        return WaitFor(() => Host.Output.slice(First).find((Out) => Expect.test(Out)), `"${Line}" answering ${Expect}`);
+    };
     Host.Stop = async () => {
         Child.kill("SIGTERM");
         await Host.Exited;

@@ -68,12 +68,16 @@ namespace OrvWebBridge
 
             bool SetRaw(const void* Data, std::int64_t Size, std::int32_t Width, std::int32_t Height) override
             {
+                if (!Module.bSetRawSucceeds)
+                {
+                    return false;
+                }
                 const auto* Bytes = static_cast<const std::uint8_t*>(Data);
                 Module.Record.RawBytes.assign(Bytes, Bytes + Size);
                 Module.Record.RawSize = Size;
                 Module.Record.Width = Width;
                 Module.Record.Height = Height;
-                return Module.bSetRawSucceeds;
+                return true;
             }
             bool KeepsAlpha() const override { return true; }
             std::span<const std::uint8_t> GetCompressed(std::int32_t Quality) override

@@ -24,12 +24,7 @@ namespace OrvWebBridge
         FOrvNullEditorPorts(const FOrvNullEditorPorts&) = delete;
         FOrvNullEditorPorts& operator=(const FOrvNullEditorPorts&) = delete;
 
-        FOrvMcpPorts Ports()
-        {
-            return {Editor.World(),  Editor.Editing(), Editor.Transactions(),
-                    Editor.Assets(), Editor.Meshes(),  Editor.Viewport(),
-                    Images,          GameThread,       Log};
-        }
+        FOrvMcpPorts Ports() { return Editor.McpPorts(Images, GameThread, Log); }
 
         FOrvManualGameThread GameThread;
         FOrvRecordingLog Log;

@@ -30,7 +30,7 @@ expect pass "correct engine calls, delegates, UE_LOG, Slate and a reflected clas
 while IFS='|' read -r probe message; do
     expect fail "$probe" "$message" --closed 0 --define "ORV_PROBE_$probe" "$probes/OrvSurfaceProbes.cpp"
 done <<'EOF_PROBES'
-UNDECLARED_MEMBER|undeclared: UEditorEngine::GetSelectedActors
+UNDECLARED_MEMBER|undeclared: UEditorEngine::GetSelectedComponents
 UNDECLARED_HEADER|header not in the surface: Subsystems/EditorActorSubsystem.h
 MISSING_ARGUMENT|too few arguments for the declared signature
 LOG_FSTRING|pass an FString as *Text

@@ -1,5 +1,6 @@
 #include "OrvComposition.h"
 
+#include "OrvCatalogPanel.h"
 #include "OrvOutlinerPanel.h"
 
 #include "LevelEditor.h"
@@ -11,7 +12,11 @@
 
 namespace OrvWebBridge
 {
-    FOrvComposition::FOrvComposition() = default;
+    FOrvComposition::FOrvComposition()
+        : CatalogPanel(MakeUnique<FOrvCatalogPanel>(
+              WebPanelService, WebPanel, [this]() -> IOrvCatalogApi* { return CatalogApi.Find(); }, Log))
+    {
+    }
 
     FOrvComposition::~FOrvComposition()
     {
@@ -79,6 +84,21 @@ namespace OrvWebBridge
                 });
         }
         return Panel;
+    }
+
+    TSharedRef<SWidget> FOrvComposition::MakeCatalogBrowser()
+    {
+        return CatalogPanel->MakeBrowser();
+    }
+
+    void FOrvComposition::SetCatalogBrowser(TSharedPtr<SWebBrowser> Browser)
+    {
+        CatalogPanel->SetBrowser(MoveTemp(Browser));
+    }
+
+    FOrvScriptBridge& FOrvComposition::GetScriptBridge()
+    {
+        return CatalogPanel->GetScriptBridge();
     }
 
     FOrvMcpHandler& FOrvComposition::GetMcpHandler()

@@ -2,12 +2,16 @@
 
 #include "CoreMinimal.h"
 
+#include "Core/Common/OrvConstants.h"
 #include "Core/Mcp/OrvMcpPorts.h"
 #include "Core/Module/OrvGuardedGameThread.h"
 #include "Core/Outliner/OrvOutlinerPanelModel.h"
 #include "Core/Panel/OrvWebPanelService.h"
+#include "Core/SmartPanel/OrvSmartPanel.h"
 #include "Unreal/OrvUnrealActorEditing.h"
 #include "Unreal/OrvUnrealAssetRegistry.h"
+#include "Unreal/OrvUnrealClipboard.h"
+#include "Unreal/OrvUnrealContentBrowser.h"
 #include "Unreal/OrvUnrealEditorUi.h"
 #include "Unreal/OrvUnrealEditorWorld.h"
 #include "Unreal/OrvUnrealEnvironment.h"
@@ -24,6 +28,7 @@
 #include "Unreal/OrvUnrealTransactions.h"
 #include "Unreal/OrvUnrealViewport.h"
 #include "Unreal/OrvUnrealWebPanel.h"
+#include "Unreal/OrvUnrealWidgetFocus.h"
 #if ORV_WITH_CLOSED_MODULES
 #include "Unreal/Closed/OrvUnrealCatalogApi.h"
 #else
@@ -31,11 +36,15 @@
 #endif
 
 class SOrvOutlinerPanel;
+class SWebBrowser;
+class SWidget;
 
 namespace OrvWebBridge
 {
+    class FOrvCatalogPanel;
     class FOrvMcpHandler;
     class FOrvMcpServer;
+    class FOrvScriptBridge;
 
     /**
      * @brief The one place that builds the plugin: every adapter, the handle table they share, the
@@ -55,6 +64,7 @@ namespace OrvWebBridge
         IOrvLog& GetLog() { return Log; }
         FOrvWebPanelService& GetWebPanelService() { return WebPanelService; }
         FOrvUnrealWebPanel& GetWebPanel() { return WebPanel; }
+        FOrvSmartPanel& GetSmartPanel() { return SmartPanel; }
 
         /** Makes the MCP server and starts it on Port; false, and no server kept, when it cannot listen. */
         bool StartMcpServer(uint32 Port);
@@ -65,6 +75,16 @@ namespace OrvWebBridge
          * goes first, makes the panel let go of its model while the adapters still exist.
          */
         TSharedRef<SOrvOutlinerPanel> MakeOutlinerPanel();
+
+        /** A new "Orv Catalog" browser, handed at once to the catalogue panel's services (FOrvCatalogPanel).
+         */
+        TSharedRef<SWidget> MakeCatalogBrowser();
+
+        /** The catalogue tab's browser; null when the tab closes. */
+        void SetCatalogBrowser(TSharedPtr<SWebBrowser> Browser);
+
+        /** The script bridge the page's "OrvBridge" calls reach. */
+        FOrvScriptBridge& GetScriptBridge();
 
     private:
         FOrvMcpHandler& GetMcpHandler();
@@ -96,11 +116,19 @@ namespace OrvWebBridge
 #endif
         FOrvUnrealWebPanel WebPanel;
         FOrvWebPanelService WebPanelService{WebPanel, Log};
+        FOrvUnrealContentBrowser ContentBrowser;
+        FOrvUnrealWidgetFocus WidgetFocus;
+        FOrvUnrealClipboard Clipboard;
+        FOrvSmartPanel SmartPanel{{Selection, World, Meshes, Assets, ContentBrowser, WidgetFocus,
+                                   WebPanelService.GetPanel(), Clipboard, Log},
+                                  FOrvConstants::CatalogSiteBaseUrl};
         FOrvUnrealEditorUi EditorUi{Handles};
         FOrvUnrealHttpServerModule HttpServer;
 
         TUniquePtr<FOrvMcpHandler> McpHandler;
         TUniquePtr<FOrvMcpServer> McpServer;
+        /** Goes before the adapters it uses (the panel, the catalogue API, the log). */
+        TUniquePtr<FOrvCatalogPanel> CatalogPanel;
 
         TArray<TWeakPtr<SOrvOutlinerPanel>> OutlinerPanels;
         FDelegateHandle MapChangedHandle;

@@ -1,11 +1,15 @@
 #include "OrvessaWebBridge.h"
 
+#include "OrvCatalogToolbar.h"
 #include "OrvComposition.h"
 #include "OrvOutlinerPanel.h"
 #include "OrvessaWebBridgeStyle.h"
 
+#include "AssetRegistry/AssetData.h"
+#include "Editor.h"
 #include "Framework/Docking/TabManager.h"
 #include "Modules/ModuleManager.h"
+#include "Selection.h"
 #include "ToolMenus.h"
 #include "Widgets/Docking/SDockTab.h"
 #include "Widgets/Layout/SBox.h"
@@ -16,6 +20,7 @@
 #include "Unreal/OrvUnrealModuleHost.h"
 
 #include <array>
+#include <vector>
 
 // Texts are restated from the core's menu table as literals, which localisation gathering needs; a test keeps
 // them equal.
@@ -50,6 +55,11 @@ FOrvessaWebBridgeModule* FOrvessaWebBridgeModule::GetLoaded()
     return FModuleManager::GetModulePtr<FOrvessaWebBridgeModule>("OrvessaWebBridge");
 }
 
+FOrvScriptBridge* FOrvessaWebBridgeModule::GetScriptBridge()
+{
+    return Composition ? &Composition->GetScriptBridge() : nullptr;
+}
+
 void FOrvessaWebBridgeModule::NavigateWebPanel(const FString& Url)
 {
     if (Composition)
@@ -70,8 +80,13 @@ void FOrvessaWebBridgeModule::SetCatalogBrowser(TSharedPtr<SWebBrowser> Browser)
 {
     if (Composition)
     {
-        Composition->GetWebPanel().SetBrowser(MoveTemp(Browser));
+        Composition->SetCatalogBrowser(MoveTemp(Browser));
     }
+}
+
+FOrvSmartPanel* FOrvessaWebBridgeModule::GetSmartPanel()
+{
+    return Composition ? &Composition->GetSmartPanel() : nullptr;
 }
 
 void FOrvessaWebBridgeModule::PluginButtonClicked()
@@ -81,17 +96,40 @@ void FOrvessaWebBridgeModule::PluginButtonClicked()
 
 void FOrvessaWebBridgeModule::ViewProductDetails()
 {
-    // Alt+R: the detail navigation is the smart panel's, which this entry point hands the key to.
+    if (FOrvSmartPanel* SmartPanel = GetSmartPanel())
+    {
+        SmartPanel->ViewProductDetails();
+    }
 }
 
-void FOrvessaWebBridgeModule::OnViewportSelectionChanged(UObject*)
+void FOrvessaWebBridgeModule::OnViewportSelectionChanged(UObject* ChangedSelection)
 {
-    // Viewport selection: handed to the smart panel's auto-detect.
+    // The event comes once for each selection set a click changes (actors, components, objects); only the
+    // actor set tells which products are selected.
+    if (GEditor && ChangedSelection != GEditor->GetSelectedActors())
+    {
+        return;
+    }
+    if (FOrvSmartPanel* SmartPanel = GetSmartPanel())
+    {
+        SmartPanel->OnViewportSelectionChanged();
+    }
 }
 
-void FOrvessaWebBridgeModule::OnContentBrowserSelectionChanged(const TArray<FAssetData>&, bool)
+void FOrvessaWebBridgeModule::OnContentBrowserSelectionChanged(const TArray<FAssetData>& SelectedAssets, bool)
 {
-    // Content Browser selection: handed to the smart panel's auto-detect.
+    FOrvSmartPanel* SmartPanel = GetSmartPanel();
+    if (!SmartPanel)
+    {
+        return;
+    }
+    std::vector<FOrvAssetData> Selected;
+    Selected.reserve(static_cast<size_t>(SelectedAssets.Num()));
+    for (const FAssetData& Asset : SelectedAssets)
+    {
+        Selected.push_back(FOrvUnrealConversions::ToOrvAssetData(Asset));
+    }
+    SmartPanel->OnContentBrowserSelectionChanged(Selected);
 }
 
 void FOrvessaWebBridgeModule::InvokeTab(EOrvModuleTab Tab)
@@ -158,8 +196,8 @@ TSharedRef<SDockTab> FOrvessaWebBridgeModule::SpawnCatalogTab(const FSpawnTabArg
                             })
         [
             SNew(SVerticalBox)
-            + SVerticalBox::Slot().AutoHeight()[SNew(SBox)]
-            + SVerticalBox::Slot().FillHeight(1.0f)[SNew(SBox)]
+            + SVerticalBox::Slot().AutoHeight()[SNew(SOrvCatalogToolbar)]
+            + SVerticalBox::Slot().FillHeight(1.0f)[Composition->MakeCatalogBrowser()]
         ];
     // clang-format on
 }

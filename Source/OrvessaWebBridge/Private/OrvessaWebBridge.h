@@ -14,8 +14,10 @@ struct FAssetData;
 namespace OrvWebBridge
 {
     class FOrvComposition;
+    class FOrvSmartPanel;
     class FOrvModuleLifecycle;
     class FOrvUnrealModuleHost;
+    class FOrvScriptBridge;
 } // namespace OrvWebBridge
 
 /**
@@ -35,6 +37,9 @@ public:
     /** The loaded module, or null (during shut-down, or before it loads). */
     static FOrvessaWebBridgeModule* GetLoaded();
 
+    /** The script bridge the page's "OrvBridge" calls reach; null while the module is not started. */
+    OrvWebBridge::FOrvScriptBridge* GetScriptBridge();
+
     // Services other parts reach through the module.
     /** Loads Url in the catalogue panel, or only warns while the panel is closed. */
     void NavigateWebPanel(const FString& Url);
@@ -42,6 +47,9 @@ public:
     void ExecuteJavaScript(const FString& Script);
     /** The catalogue tab's browser, once the tab has made it; null when the tab closes. */
     void SetCatalogBrowser(TSharedPtr<SWebBrowser> Browser);
+    /** What makes the catalogue panel follow the selection (auto-detect, Alt+R, Copy URL); null while the
+     * module is not started. */
+    OrvWebBridge::FOrvSmartPanel* GetSmartPanel();
 
     // Command and menu actions.
     /** OpenPluginWindow: opens or focuses the "Orv Catalog" tab. */

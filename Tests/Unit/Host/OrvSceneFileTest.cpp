@@ -19,7 +19,8 @@ namespace
     "assets": [
         {"path": "/Game/ORVESSA/Forma/Meshes/SM_Chair", "bounds": {"min": [-25, -25, 0], "max": [25, 25, 90]},
          "tag": {"id": "FORMA-CH-01"}},
-        {"path": "/Game/ORVESSA/Forma/Materials/MI_Oak", "class": "/Script/Engine.MaterialInstanceConstant"},
+        {"path": "/Game/ORVESSA/Forma/Materials/MI_Oak", "class": "/Script/Engine.MaterialInstanceConstant",
+         "metadata": {"Orv_FinishID": "FORMA-FIN-07", "Note": "\"oak\""}},
         {"path": "/Game/ORVESSA/Linea/SM_Chair.SM_Chair", "bounds": {"min": [0, 0, 0], "max": [1, 1, 1]},
          "tag": {"id": "LINEA-CH-02", "valid": false}}
     ],
@@ -53,7 +54,10 @@ TEST(FOrvSceneFileTest, LoadsAssetsActorsAndCameraAsWritten)
     ASSERT_EQ(Meshes.size(), 2u);
     EXPECT_TRUE(Meshes[0].Tag->bIsValid) << "a tag is valid unless it says otherwise";
     EXPECT_FALSE(Meshes[1].Tag->bIsValid);
-    EXPECT_EQ(Editor.GetNonMeshAssets().size(), 1u);
+    ASSERT_EQ(Editor.GetNonMeshAssets().size(), 1u);
+    const FOrvAssetData Oak = Editor.GetNonMeshAssets()[0];
+    EXPECT_EQ(Editor.Assets().LoadMaterialInstanceMetaData(Oak, "orv_finishid"), "FORMA-FIN-07");
+    EXPECT_EQ(Editor.Assets().LoadMaterialInstanceMetaData(Oak, "Orv_Other"), "");
 
     const std::vector<const FOrvMemoryActor*> Actors = Editor.GetLevelActors();
     ASSERT_EQ(Actors.size(), 3u);
@@ -129,6 +133,12 @@ TEST(FOrvSceneFileTest, ContentErrorsNameTheFileAndThePlace)
          "actors[1].name: \"CHAIR\" is already the name of actors[0]"},
         {R"({"actors": [{"name": "A", "name": "B"}]})", "actors[0]: key \"name\" appears twice"},
         {R"({"version": 2})", "version: only version 1 is known"},
+        {R"({"assets": [{"path": "/Game/A/MI_Y", "class": "M", "metadata": {"Orv_FinishID": 7}}]})",
+         "assets[0].metadata.Orv_FinishID: expected a string"},
+        {R"({"assets": [{"path": "/Game/A/MI_Y", "class": "M", "metadata": {"Id": "a", "ID": "b"}}]})",
+         "assets[0].metadata.ID: repeats \"Id\" (names ignore case)"},
+        {R"({"assets": [{"path": "/Game/A/SM_X", "bounds": {"min": [0,0,0], "max": [1,1,1]}, "metadata": {}}]})",
+         "assets[0]: static meshes take no \"metadata\" (their product tag is \"tag\")"},
     };
     for (const auto& [Text, Expected] : Cases)
     {

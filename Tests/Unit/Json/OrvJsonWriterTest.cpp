@@ -1,4 +1,5 @@
 #include "Core/Json/OrvJsonWriter.h"
+#include "Core/Common/OrvUtf8.h"
 #include "Core/Json/OrvJson.h"
 
 #include <gtest/gtest.h>
@@ -49,6 +50,49 @@ TEST(FOrvJsonWriterTest, StringsAreEscapedAsTheEngineEscapes)
     std::string Out;
     OrvAppendJsonEscaped(Out, "a\"b\\c\r\n\t\x01/\xE2\x80\x94");
     EXPECT_EQ(Out, "a\\\"b\\\\c\\r\\n\\t\\u0001/\xE2\x80\x94");
+}
+
+TEST(FOrvJsonWriterTest, IllFormedUtf8ComesOutAsReplacementCharacters)
+{
+    const std::string Fffd = "\xEF\xBF\xBD";
+    const std::pair<std::string, std::string> Cases[] = {
+        {"caf\xC3\xA9 \xE2\x80\x94 \xF0\x9F\xAA\x91", "caf\xC3\xA9 \xE2\x80\x94 \xF0\x9F\xAA\x91"},
+        {"a\xFF"
+         "b",
+         "a" + Fffd + "b"},
+        {"\xC3", Fffd},                                  // cut short at the end
+        {"\xE2\x80x", Fffd + "x"},                       // cut short before an ASCII byte
+        {"\xC0\xAF", Fffd + Fffd},                       // overlong
+        {"\xED\xB0\x80", Fffd},                          // a lone surrogate, as \udc00 decodes
+        {"\xF4\x90\x80\x80", Fffd + Fffd + Fffd + Fffd}, // above U+10FFFF
+        {"\x80\x80", Fffd + Fffd},                       // stray continuation bytes
+    };
+    for (const auto& [Input, Expected] : Cases)
+    {
+        std::string Escaped;
+        OrvAppendJsonEscaped(Escaped, Input);
+        EXPECT_EQ(Escaped, Expected) << Input;
+        EXPECT_EQ(FOrvUtf8::MakeValid(Input), Expected) << Input;
+        EXPECT_EQ(FOrvUtf8::IsValid(Input), Input == Expected) << Input;
+    }
+}
+
+TEST(FOrvJsonTest, NestingIsBoundedWithoutRecursionAndTheErrorSaysWhere)
+{
+    rapidjson::Document Document;
+    EXPECT_TRUE(FOrvJson::Parse(std::string(256, '[') + std::string(256, ']'), Document));
+
+    FOrvJsonParseError Error;
+    const std::string TooDeep = "\n" + std::string(257, '[') + std::string(257, ']');
+    EXPECT_FALSE(FOrvJson::Parse(TooDeep, Document, &Error));
+    EXPECT_EQ(FOrvJson::DescribeParseError(TooDeep, Error),
+              "line 2, column 257: arrays and objects nest deeper than 256 levels");
+
+    // A recursive parser runs out of stack long before this.
+    EXPECT_FALSE(FOrvJson::Parse(std::string(1000000, '['), Document, &Error));
+    EXPECT_TRUE(Error.bTooDeep);
+    EXPECT_FALSE(FOrvJson::Parse(R"({"a":[1,}])", Document, &Error));
+    EXPECT_EQ(FOrvJson::DescribeParseError(R"({"a":[1,}])", Error), "line 1, column 9: Invalid value.");
 }
 
 TEST(FOrvJsonTest, ParseObjectRejectsArraysScalarsAndGarbage)

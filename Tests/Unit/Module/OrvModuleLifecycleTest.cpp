@@ -51,10 +51,10 @@ namespace
             PostEngineInit = std::move(Callback);
         }
         void CancelPostEngineInit() override { Journal.push_back("cancel post-engine-init"); }
-        bool StartMcpServer(std::uint32_t Port) override
+        std::uint32_t StartMcpServer(std::uint32_t Port) override
         {
             Journal.push_back("start MCP server on " + std::to_string(Port));
-            return !bPortBusy;
+            return bPortBusy ? 0 : Port;
         }
         void StopMcpServer() override { Journal.push_back("stop MCP server"); }
 

@@ -1,6 +1,7 @@
 #include "Core/Module/OrvCommandTable.h"
 #include "Core/Module/OrvModuleMenus.h"
 #include "Core/Outliner/OrvOutlinerTexts.h"
+#include "Core/SmartPanel/OrvCatalogToolbarTexts.h"
 
 #include "Tests/Support/OrvUnrealLiterals.h"
 
@@ -66,6 +67,12 @@ namespace
                                         FDialog::RevisionLabel, FDialog::CancelButton, FDialog::ExportButton})
         {
             AddText(FDialog::Namespace, Text);
+        }
+        using FToolbar = FOrvCatalogToolbarTexts;
+        for (const FOrvLocText& Text : {FToolbar::AutoDetect, FToolbar::AutoDetectTooltip, FToolbar::Hint,
+                                        FToolbar::HintTooltip, FToolbar::CopyUrl, FToolbar::CopyUrlTooltip})
+        {
+            AddText(FToolbar::Namespace, Text);
         }
         return Texts;
     }

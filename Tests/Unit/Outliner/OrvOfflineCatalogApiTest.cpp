@@ -81,7 +81,8 @@ TEST(FOrvOfflineCatalogApiTest, MalformedCataloguesAreRefusedWithWhereAndWhy)
     EXPECT_EQ(ErrorOf("{\"products\":[{\"id\":\"A\"},{\"id\":\"B\"},{\"id\":\"A\"}]}"),
               "cat.json: products[2].id: \"A\" repeats products[0]");
     EXPECT_EQ(Api.GetProductCount(), 0u) << "a refused file leaves no records behind";
-    EXPECT_EQ(Api.LoadFile("/nonexistent/cat.json").Error, "/nonexistent/cat.json: cannot be read");
+    EXPECT_EQ(Api.LoadFile("/nonexistent/cat.json").Error,
+              "/nonexistent/cat.json: cannot open: No such file or directory");
 
     EXPECT_TRUE(Api.LoadText("[{\"id\":\"A\"},{\"id\":\"B\"}]", "bare.json").bOk);
     EXPECT_EQ(Api.GetProductCount(), 2u);

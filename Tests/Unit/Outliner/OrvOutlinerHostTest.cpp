@@ -1,6 +1,7 @@
 #include "Host/OrvHostCommands.h"
 #include "Host/Outliner/OrvHostFiles.h"
 #include "Host/Outliner/OrvOutlinerTextView.h"
+#include "Tests/Support/OrvTempDirectory.h"
 #include "Tests/Unit/Outliner/OrvOutlinerTestRig.h"
 
 #include <gtest/gtest.h>
@@ -13,19 +14,6 @@ using namespace OrvWebBridge;
 
 namespace
 {
-    /** A fresh directory under the system's temporary one, removed afterwards. */
-    struct FTempDirectory
-    {
-        FTempDirectory()
-        {
-            std::string Pattern = (std::filesystem::temp_directory_path() / "orv-outliner-XXXXXX").string();
-            Path = mkdtemp(Pattern.data());
-        }
-        ~FTempDirectory() { std::filesystem::remove_all(Path); }
-
-        std::filesystem::path Path;
-    };
-
     std::string ReadFile(const std::filesystem::path& Path)
     {
         std::ifstream Stream(Path, std::ios::binary);
@@ -80,7 +68,7 @@ TEST(FOrvOutlinerHostTest, TreeSortsWithoutCaseGroupsNamesAcrossCaseAndPutsRootC
 
 TEST(FOrvOutlinerHostTest, HostFilesNeverReplaceAFileUnlessAllowedAndLeaveNoTemporaryFiles)
 {
-    FTempDirectory Directory;
+    FOrvTempDirectory Directory;
     const std::string Target = (Directory.Path / "Schedule.csv").string();
     FOrvHostFiles Files;
 
@@ -101,7 +89,7 @@ TEST(FOrvOutlinerHostTest, HostFilesNeverReplaceAFileUnlessAllowedAndLeaveNoTemp
 
 TEST(FOrvOutlinerHostTest, ScheduleCommandWritesOnceAndOverwritesOnlyWhenForced)
 {
-    FTempDirectory Directory;
+    FOrvTempDirectory Directory;
     FOrvScheduleOptions Options;
     Options.OutputFile = (Directory.Path / "Villa").string();
     Options.ProjectName = "Villa, Rosa";
@@ -123,7 +111,7 @@ TEST(FOrvOutlinerHostTest, ScheduleCommandWritesOnceAndOverwritesOnlyWhenForced)
 
 TEST(FOrvOutlinerHostTest, ScheduleCommandWithoutOptionsUsesThePanelsDefaultNameInTheCurrentDirectory)
 {
-    FTempDirectory Directory;
+    FOrvTempDirectory Directory;
     const std::filesystem::path Previous = std::filesystem::current_path();
     std::filesystem::current_path(Directory.Path);
     const int ExitCode = RunScheduleCommand({});

@@ -43,3 +43,21 @@ TEST(FOrvWebPanelServiceTest, ClosedPanelOnlyWarns)
     EXPECT_TRUE(Log.Contains(EOrvLogVerbosity::Warning,
                              "OrvProductInfoPanel: WebBrowserWidget not valid, cannot execute JavaScript"));
 }
+
+TEST(FOrvWebPanelServiceTest, WhatThePanelsBrowserReportsIsLoggedWithLevelSourceAndLine)
+{
+    FOrvRecordingLog Log;
+
+    FOrvWebPanelService::LogConsoleMessage(Log, 5, "Uncaught TypeError: x is undefined",
+                                           "https://orvessa.com/app.js", 42);
+    FOrvWebPanelService::LogLoadCompleted(Log);
+    FOrvWebPanelService::LogLoadError(Log);
+
+    ASSERT_EQ(Log.Lines.size(), 3u);
+    EXPECT_TRUE(Log.Contains(EOrvLogVerbosity::Log,
+                             "[OrvBridge JS Console][5] Uncaught TypeError: x is undefined "
+                             "(at https://orvessa.com/app.js:42)"));
+    EXPECT_TRUE(Log.Contains(EOrvLogVerbosity::Log, "[OrvBridge] Load completed."));
+    EXPECT_TRUE(
+        Log.Contains(EOrvLogVerbosity::Error, "[OrvBridge] Load ERROR (no details provided by delegate)"));
+}

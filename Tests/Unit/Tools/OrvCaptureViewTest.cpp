@@ -1,5 +1,7 @@
 #include "Core/Common/OrvBase64.h"
+#include "Core/Tools/OrvViewportCapture.h"
 #include "Host/Editor/OrvTurboJpegModule.h"
+#include "Tests/Support/OrvFakeCapturePorts.h"
 #include "Tests/Support/OrvMcpTestRequests.h"
 #include "Tests/Support/OrvToolTestRig.h"
 
@@ -38,9 +40,7 @@ TEST(FOrvCaptureViewTest, TheEditorViewportComesBackAsAJpegOfItsOwnSize)
     Viewport.Size = {320, 200};
     Rig.Editor.SetViewport(Viewport);
     FOrvTurboJpegModule Jpeg;
-    FOrvMcpHandler Handler({Rig.Editor.World(), Rig.Editor.Editing(), Rig.Editor.Transactions(),
-                            Rig.Editor.Assets(), Rig.Editor.Meshes(), Rig.Editor.Viewport(), Jpeg,
-                            Rig.GameThread, Rig.Log});
+    FOrvMcpHandler Handler(Rig.Editor.McpPorts(Jpeg, Rig.GameThread, Rig.Log));
     const std::vector<std::string> Responses = OrvSendMcpRequest(
         Handler, Rig.GameThread, R"({"id":1,"method":"tools/call","params":{"name":"ue_capture_view"}})");
     ASSERT_EQ(Responses.size(), 1u);
@@ -111,6 +111,9 @@ TEST(FOrvCaptureViewTest, QualityIsRoundedAndClampedAndOnlyNumbersCount)
         {R"({"quality":55.5})", 56},
         {R"({"quality":-0.5})", 1},
         {R"({"quality":1e12})", 80},
+        // Argument names are found as the editor's FJsonObject finds them: any case, the last one wins.
+        {R"({"QUALITY":30})", 30},
+        {R"({"quality":10,"Quality":20})", 20},
     };
     for (const auto& [Json, Expected] : Cases)
     {
@@ -127,6 +130,10 @@ TEST(FOrvCaptureViewTest, EachFailingStepAnswersItsOwnSentence)
          R"({"error":"No active editor viewport. Open a Level Editor viewport and try again."})"},
         {[](auto& R) { R.FakeViewport.Size.X = 0; }, R"({"error":"Viewport has zero size."})"},
         {[](auto& R) { R.FakeViewport.Size.Y = -1; }, R"({"error":"Viewport has zero size."})"},
+        {[](auto& R) {
+             R.FakeViewport.Size = {16385, 2};
+         },
+         R"({"error":"Viewport size 16385x2 is larger than the engine's largest texture side (16384 pixels)."})"},
         {[](auto& R) { R.FakeViewport.bReadSucceeds = false; },
          R"({"error":"Viewport->ReadPixels failed."})"},
         {[](auto& R) { R.FakeViewport.Frame.resize(7); },
@@ -144,4 +151,22 @@ TEST(FOrvCaptureViewTest, EachFailingStepAnswersItsOwnSentence)
         EXPECT_EQ(Reply.Type, "text");
         EXPECT_EQ(Reply.Text, Expected);
     }
+}
+
+TEST(FOrvCaptureViewTest, AHugeFramesBufferIsReleasedAfterItsAnswerAnOrdinaryOneKept)
+{
+    FOrvFakeViewport Viewport;
+    FOrvFakeImageWrapperModule Images;
+    FOrvViewportCapture Capture;
+    Viewport.Size = {1920, 1080};
+    Viewport.Frame.assign(1920 * 1080, FOrvColor{});
+    EXPECT_EQ(Capture.Capture(Viewport, Images, 80).Kind, FOrvMcpContent::EKind::Image);
+    EXPECT_GE(Capture.GetKeptPixelCapacity(), 1920u * 1080u);
+
+    // Released whatever the answer; a failed encoding spares the test the fake encoder's copy.
+    Viewport.Size = {16384, 1100};
+    Viewport.Frame.assign(16384 * 1100, FOrvColor{});
+    Images.bSetRawSucceeds = false;
+    EXPECT_EQ(Capture.Capture(Viewport, Images, 80).Text, R"({"error":"SetRaw failed on JPEG wrapper."})");
+    EXPECT_EQ(Capture.GetKeptPixelCapacity(), 0u);
 }

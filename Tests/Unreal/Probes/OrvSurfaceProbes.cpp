@@ -58,7 +58,7 @@ public:
         FString Moved = MoveTemp(Name);
 
 #if defined(ORV_PROBE_UNDECLARED_MEMBER)
-        GEditor->GetSelectedActors();
+        GEditor->GetSelectedComponents();
 #endif
 #if defined(ORV_PROBE_MISSING_ARGUMENT)
         GEditor->SelectActor(Actor, true);

@@ -11,6 +11,9 @@ struct FKey
 {
     FKey();
     FKey(const FName InName);
+
+    /** The key's name, "R" for EKeys::R. */
+    FName GetFName() const;
 };
 
 struct EKeys

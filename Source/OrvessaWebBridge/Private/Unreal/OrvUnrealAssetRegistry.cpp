@@ -7,8 +7,11 @@
 #include "AssetRegistry/AssetRegistryModule.h"
 #include "AssetRegistry/IAssetRegistry.h"
 #include "Engine/StaticMesh.h"
+#include "Materials/MaterialInstanceConstant.h"
 #include "Modules/ModuleManager.h"
 #include "Templates/Casts.h"
+#include "UObject/MetaData.h"
+#include "UObject/Package.h"
 #include "UObject/SoftObjectPath.h"
 #include "UObject/UObjectGlobals.h"
 
@@ -27,10 +30,7 @@ namespace OrvWebBridge
         Assets.reserve(static_cast<size_t>(Found.Num()));
         for (const FAssetData& Data : Found)
         {
-            Assets.push_back(FOrvAssetData{FOrvUnrealConversions::ToUtf8(Data.PackageName.ToString()),
-                                           FOrvUnrealConversions::ToUtf8(Data.PackagePath.ToString()),
-                                           FOrvUnrealConversions::ToUtf8(Data.AssetName.ToString()),
-                                           FOrvUnrealConversions::ToUtf8(Data.AssetClassPath.ToString())});
+            Assets.push_back(FOrvUnrealConversions::ToOrvAssetData(Data));
         }
         return Assets;
     }
@@ -50,5 +50,31 @@ namespace OrvWebBridge
         const FSoftObjectPath ObjectPath(
             FOrvUnrealConversions::ToFString(Asset.PackageName + "." + Asset.AssetName));
         return Handles.ToMeshRef(Cast<UStaticMesh>(ObjectPath.TryLoad()));
+    }
+
+    std::optional<std::string>
+    FOrvUnrealAssetRegistry::LoadMaterialInstanceMetaData(const FOrvAssetData& Asset, std::string_view Key)
+    {
+        const FSoftObjectPath ObjectPath(
+            FOrvUnrealConversions::ToFString(Asset.PackageName + "." + Asset.AssetName));
+        const UMaterialInstanceConstant* Material = Cast<UMaterialInstanceConstant>(ObjectPath.TryLoad());
+        if (!Material)
+        {
+            return std::nullopt;
+        }
+#if WITH_METADATA
+        // Since 5.6 a package's metadata is an FMetaData held by reference. The value may be stored for
+        // the material itself or for its package as a whole; the material's own value wins.
+        FMetaData& MetaData = Material->GetPackage()->GetMetaData();
+        const FName KeyName(*FOrvUnrealConversions::ToFString(Key));
+        const FString* Value = MetaData.FindValue(Material, KeyName);
+        if (!Value)
+        {
+            Value = MetaData.RootMetaDataMap.Find(KeyName);
+        }
+        return Value ? FOrvUnrealConversions::ToUtf8(*Value) : std::string();
+#else
+        return std::string();
+#endif
     }
 } // namespace OrvWebBridge

@@ -18,6 +18,8 @@ namespace OrvWebBridge
                                                            bool bRecursive) const override;
         virtual FOrvMeshRef LoadStaticMesh(std::string_view ObjectPath) override;
         virtual FOrvMeshRef LoadStaticMeshAsset(const FOrvAssetData& Asset) override;
+        virtual std::optional<std::string> LoadMaterialInstanceMetaData(const FOrvAssetData& Asset,
+                                                                        std::string_view Key) override;
 
     private:
         FOrvUnrealHandles& Handles;

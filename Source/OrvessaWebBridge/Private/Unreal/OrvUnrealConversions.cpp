@@ -1,6 +1,8 @@
 #include "Unreal/OrvUnrealConversions.h"
 
+#include "AssetRegistry/AssetData.h"
 #include "Containers/StringConv.h"
+#include "Input/Events.h"
 
 #include <cstring>
 
@@ -73,5 +75,23 @@ namespace OrvWebBridge
             std::memcpy(static_cast<void*>(Out.data()), Pixels.GetData(),
                         static_cast<size_t>(Pixels.Num()) * sizeof(FColor));
         }
+    }
+
+    FOrvAssetData FOrvUnrealConversions::ToOrvAssetData(const FAssetData& Asset)
+    {
+        return FOrvAssetData{ToUtf8(Asset.PackageName.ToString()), ToUtf8(Asset.PackagePath.ToString()),
+                             ToUtf8(Asset.AssetName.ToString()), ToUtf8(Asset.AssetClassPath.ToString())};
+    }
+
+    FOrvKeyEvent FOrvUnrealConversions::ToOrvKeyEvent(const FKeyEvent& Event)
+    {
+        FOrvKeyEvent Converted;
+        Converted.KeyName = ToUtf8(Event.GetKey().GetFName().ToString());
+        Converted.KeyCode = Event.GetKeyCode();
+        Converted.Character = Event.GetCharacter();
+        Converted.bAltDown = Event.IsLeftAltDown() || Event.IsRightAltDown();
+        Converted.bControlDown = Event.IsControlDown();
+        Converted.bShiftDown = Event.IsShiftDown();
+        return Converted;
     }
 } // namespace OrvWebBridge

@@ -3,10 +3,14 @@
 #include "CoreMinimal.h"
 
 #include "Core/Common/OrvTypes.h"
+#include "Core/SmartPanel/OrvInputKeyPredicate.h"
 
 #include <string>
 #include <string_view>
 #include <vector>
+
+struct FKeyEvent;
+struct FAssetData;
 
 namespace OrvWebBridge
 {
@@ -37,5 +41,11 @@ namespace OrvWebBridge
 
         /** Pixels copied as they lie in memory: both types are B, G, R, A bytes. */
         static void ToOrvColors(const TArray<FColor>& Pixels, std::vector<FOrvColor>& Out);
+
+        /** A registry entry's names, its class as the full class path ("/Script/Engine.StaticMesh"). */
+        static FOrvAssetData ToOrvAssetData(const FAssetData& Asset);
+
+        /** A key press as the Alt+R key test reads it: key name, codes, and Alt on either side. */
+        static FOrvKeyEvent ToOrvKeyEvent(const FKeyEvent& Event);
     };
 } // namespace OrvWebBridge

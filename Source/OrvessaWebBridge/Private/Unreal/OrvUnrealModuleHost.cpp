@@ -69,7 +69,7 @@ namespace OrvWebBridge
             {
                 return false;
             }
-            InputProcessor = MakeShared<FOrvInputProcessor>();
+            InputProcessor = MakeShared<FOrvInputProcessor>(&Module);
             return FSlateApplication::Get().RegisterInputPreProcessor(InputProcessor);
         case EOrvModuleStep::MenuStartupCallback:
             MenuStartupHandle =
@@ -182,9 +182,10 @@ namespace OrvWebBridge
         }
     }
 
-    bool FOrvUnrealModuleHost::StartMcpServer(std::uint32_t Port)
+    std::uint32_t FOrvUnrealModuleHost::StartMcpServer(std::uint32_t Port)
     {
-        return Composition.StartMcpServer(Port);
+        // The editor always asks for its fixed port, never for one the system chooses.
+        return Composition.StartMcpServer(Port) ? Port : 0;
     }
 
     void FOrvUnrealModuleHost::StopMcpServer()

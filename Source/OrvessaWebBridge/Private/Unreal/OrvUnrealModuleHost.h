@@ -29,7 +29,7 @@ namespace OrvWebBridge
         virtual bool HasEditorEngine() const override;
         virtual void DeferToPostEngineInit(std::function<void()> Callback) override;
         virtual void CancelPostEngineInit() override;
-        virtual bool StartMcpServer(std::uint32_t Port) override;
+        virtual std::uint32_t StartMcpServer(std::uint32_t Port) override;
         virtual void StopMcpServer() override;
 
     private:

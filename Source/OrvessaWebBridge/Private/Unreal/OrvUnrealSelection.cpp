@@ -3,6 +3,8 @@
 #include "Unreal/OrvUnrealHandles.h"
 
 #include "Editor.h"
+#include "GameFramework/Actor.h"
+#include "Selection.h"
 
 namespace OrvWebBridge
 {
@@ -32,5 +34,23 @@ namespace OrvWebBridge
         {
             GEditor->NoteSelectionChange();
         }
+    }
+
+    std::optional<std::vector<FOrvActorRef>> FOrvUnrealSelection::GetSelectedActors() const
+    {
+        if (!GEditor)
+        {
+            return std::nullopt;
+        }
+        // The actor selection set holds actors only; other selected objects live in other sets.
+        TArray<AActor*> Selected;
+        GEditor->GetSelectedActors()->GetSelectedObjects<AActor>(Selected);
+        std::vector<FOrvActorRef> Actors;
+        Actors.reserve(static_cast<size_t>(Selected.Num()));
+        for (AActor* Actor : Selected)
+        {
+            Actors.push_back(Handles.ToActorRef(Actor));
+        }
+        return Actors;
     }
 } // namespace OrvWebBridge

@@ -8,7 +8,8 @@ namespace OrvWebBridge
 {
     class FOrvUnrealHandles;
 
-    /** @brief IOrvEditorSelection over GEditor: batch changes without notifying, then notify once. */
+    /** @brief IOrvEditorSelection over GEditor: batch changes without notifying, then notify once; read the
+     * selected actors from its actor selection set. */
     class FOrvUnrealSelection final : public IOrvEditorSelection
     {
     public:
@@ -17,6 +18,7 @@ namespace OrvWebBridge
         virtual void SelectNone() override;
         virtual void SelectActor(FOrvActorRef Actor) override;
         virtual void NoteSelectionChange() override;
+        virtual std::optional<std::vector<FOrvActorRef>> GetSelectedActors() const override;
 
     private:
         FOrvUnrealHandles& Handles;

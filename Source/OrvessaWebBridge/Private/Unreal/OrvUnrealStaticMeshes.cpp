@@ -4,6 +4,7 @@
 #include "Unreal/OrvUnrealConversions.h"
 #include "Unreal/OrvUnrealHandles.h"
 
+#include "Engine/AssetUserData.h"
 #include "Engine/StaticMesh.h"
 
 namespace OrvWebBridge
@@ -37,5 +38,28 @@ namespace OrvWebBridge
         // The tag is the maker's import module's; without that module, no mesh has one.
         UStaticMesh* Resolved = Handles.ResolveMesh(Mesh);
         return Resolved ? ReadClosedProductTag(*Resolved) : std::nullopt;
+    }
+
+    std::optional<std::vector<FOrvAssetUserData>>
+    FOrvUnrealStaticMeshes::GetAssetUserData(FOrvMeshRef Mesh) const
+    {
+        const UStaticMesh* Resolved = Handles.ResolveMesh(Mesh);
+        const TArray<UAssetUserData*>* UserData = Resolved ? Resolved->GetAssetUserDataArray() : nullptr;
+        if (!UserData)
+        {
+            return std::nullopt;
+        }
+        // The array may hold null entries (a removed user data class): they have no class to name.
+        std::vector<FOrvAssetUserData> Entries;
+        Entries.reserve(static_cast<size_t>(UserData->Num()));
+        for (UAssetUserData* Entry : *UserData)
+        {
+            FOrvAssetUserData Converted;
+            Converted.ClassName =
+                Entry ? FOrvUnrealConversions::ToUtf8(Entry->GetClass()->GetName()) : "None";
+            Converted.ProductData = ReadClosedProductTag(Entry);
+            Entries.push_back(std::move(Converted));
+        }
+        return Entries;
     }
 } // namespace OrvWebBridge

@@ -19,6 +19,8 @@ namespace OrvWebBridge
         virtual std::string GetMeshPathName(FOrvMeshRef Mesh) const override;
         virtual FOrvBox GetBoundingBox(FOrvMeshRef Mesh) const override;
         virtual std::optional<FOrvProductTag> GetProductTag(FOrvMeshRef Mesh) const override;
+        virtual std::optional<std::vector<FOrvAssetUserData>>
+        GetAssetUserData(FOrvMeshRef Mesh) const override;
 
     private:
         FOrvUnrealHandles& Handles;

@@ -15,6 +15,7 @@ namespace OrvWebBridge
     public:
         /** The tab's browser; null when the tab closes. */
         void SetBrowser(TSharedPtr<SWebBrowser> InBrowser) { Browser = MoveTemp(InBrowser); }
+        const TSharedPtr<SWebBrowser>& GetBrowser() const { return Browser; }
 
         virtual bool IsOpen() const override { return Browser.IsValid(); }
         virtual void LoadUrl(std::string_view Url) override;

@@ -10,6 +10,7 @@
 #include "UnrealClient.h"
 
 class AActor;
+class USelection;
 
 class UEditorEngine : public UEngine
 {
@@ -26,4 +27,7 @@ class UEditorEngine : public UEngine
     virtual void SelectNone(bool bNoteSelectionChange, bool bDeselectBSPSurfs,
                             bool WarnAboutManyActors = true);
     virtual void NoteSelectionChange(bool bNotify = true);
+
+    /** The set of selected actors (never null while the editor runs). [unconf: virtual or not] */
+    USelection* GetSelectedActors() const;
 };

@@ -16,4 +16,5 @@ class UStaticMesh : public UObject, public IInterface_AssetUserData
     /** The mesh's bounds with its positive and negative bounds extensions. */
     FBox GetBoundingBox() const;
     virtual UAssetUserData* GetAssetUserDataOfClass(TSubclassOf<UAssetUserData> InUserDataClass) override;
+    virtual const TArray<UAssetUserData*>* GetAssetUserDataArray() const override;
 };

@@ -6,6 +6,15 @@
 //   https://dev.epicgames.com/documentation/en-us/unreal-engine/API/Runtime/SlateCore/FButtonStyle (by URL
 //   scheme)
 
+/** A check box's state. Docs (by URL scheme):
+ *  https://dev.epicgames.com/documentation/en-us/unreal-engine/API/Runtime/SlateCore/ECheckBoxState */
+enum class ECheckBoxState : uint8
+{
+    Unchecked,
+    Checked,
+    Undetermined,
+};
+
 enum class ESlateParentWindowSearchMethod
 {
     ActiveWindow,

@@ -3,12 +3,17 @@
 // Engine: Runtime/CoreUObject/Public/UObject/Object.h, UObjectBase.h, UObjectBaseUtility.h (CoreUObject).
 // Docs (by URL scheme):
 //   https://dev.epicgames.com/documentation/en-us/unreal-engine/API/Runtime/CoreUObject/UObject
+// Docs:
+//   https://dev.epicgames.com/documentation/en-us/unreal-engine/API/Runtime/CoreUObject/UObjectBaseUtility/AddToRoot
+//   https://dev.epicgames.com/documentation/unreal-engine/API/Runtime/CoreUObject/UObject/UObjectBaseUtility/RemoveFromRoot?application_version=5.5
 
 #include "CoreMinimal.h"
 #include "UObject/ObjectMacros.h"
+#include "UObject/UObjectBase.h"
 
 class UClass;
 class UObject;
+class UPackage;
 class UWorld;
 
 class UObjectBase
@@ -21,8 +26,14 @@ public:
 class UObjectBaseUtility : public UObjectBase
 {
 public:
+    /** Keeps the object (and what it holds) from garbage collection until RemoveFromRoot. */
+    void AddToRoot();
+    void RemoveFromRoot();
+
     FString GetName() const;
     FString GetPathName(const UObject* StopOuter = nullptr) const;
+    /** The package the object lives in. */
+    UPackage* GetPackage() const;
 };
 
 class UObject : public UObjectBaseUtility

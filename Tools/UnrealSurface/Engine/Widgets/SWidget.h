@@ -10,4 +10,12 @@ class SWidget : public TSharedFromThis<SWidget>
 {
 public:
     virtual ~SWidget();
+
+    /** The widget this one is a child of; null at the root. Docs:
+     *  https://dev.epicgames.com/documentation/unreal-engine/API/Runtime/SlateCore/Widgets/SWidget/GetParentWidget?application_version=5.4
+     */
+    TSharedPtr<SWidget> GetParentWidget() const;
+
+    /** The widget's type name, e.g. "SAssetView". [unconf: from the team's notes sheet; no API page found] */
+    FString GetTypeAsString() const;
 };

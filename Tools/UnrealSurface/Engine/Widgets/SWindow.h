@@ -2,9 +2,13 @@
 
 // Engine: Runtime/SlateCore/Public/Widgets/SWindow.h (module SlateCore). RequestDestroyWindow closes it at
 // the end of the frame; a modal window's AddModalWindow call returns then.
-// Docs (by URL scheme):
+// ClientSize is declared with FVector2D; the page shows a UE::Slate::FDeprecateVector2D... parameter type,
+// which an FVector2D converts to [unconf], so a call passing one compiles against both. Docs (by URL scheme):
 //   https://dev.epicgames.com/documentation/en-us/unreal-engine/API/Runtime/SlateCore/SWindow
+// Docs:
+//   https://dev.epicgames.com/documentation/en-us/unreal-engine/API/Runtime/SlateCore/SWindow/FArguments
 
+#include "Math/Vector2D.h"
 #include "Widgets/DeclarativeSyntaxSupport.h"
 #include "Widgets/SCompoundWidget.h"
 
@@ -23,6 +27,7 @@ public:
     SLATE_ARGUMENT(ESizingRule, SizingRule)
     SLATE_ARGUMENT(bool, SupportsMinimize)
     SLATE_ARGUMENT(bool, SupportsMaximize)
+    SLATE_ARGUMENT(FVector2D, ClientSize)
     SLATE_END_ARGS()
     void Construct(const FArguments& InArgs);
 

@@ -12,56 +12,6 @@ namespace OrvWebBridge
             return (Character >= 'A' && Character <= 'Z') ? static_cast<char>(Character - 'A' + 'a')
                                                           : Character;
         }
-
-        // Length of the well-formed UTF-8 sequence at Bytes[Index], or 0 when it is malformed.
-        std::size_t OrvUtf8SequenceLength(std::string_view Bytes, std::size_t Index)
-        {
-            const auto Byte = [&](std::size_t At) { return static_cast<unsigned char>(Bytes[At]); };
-            const unsigned char Lead = Byte(Index);
-            if (Lead < 0x80)
-            {
-                return 1;
-            }
-            std::size_t Length = 0;
-            unsigned char Low = 0x80;
-            unsigned char High = 0xBF;
-            if (Lead >= 0xC2 && Lead <= 0xDF)
-            {
-                Length = 2;
-            }
-            else if (Lead >= 0xE0 && Lead <= 0xEF)
-            {
-                Length = 3;
-                Low = Lead == 0xE0 ? 0xA0 : 0x80;
-                High = Lead == 0xED ? 0x9F : 0xBF;
-            }
-            else if (Lead >= 0xF0 && Lead <= 0xF4)
-            {
-                Length = 4;
-                Low = Lead == 0xF0 ? 0x90 : 0x80;
-                High = Lead == 0xF4 ? 0x8F : 0xBF;
-            }
-            else
-            {
-                return 0;
-            }
-            if (Index + Length > Bytes.size())
-            {
-                return 0;
-            }
-            if (Byte(Index + 1) < Low || Byte(Index + 1) > High)
-            {
-                return 0;
-            }
-            for (std::size_t Offset = 2; Offset < Length; ++Offset)
-            {
-                if (Byte(Index + Offset) < 0x80 || Byte(Index + Offset) > 0xBF)
-                {
-                    return 0;
-                }
-            }
-            return Length;
-        }
     } // namespace
 
     bool FOrvStrings::EqualsIgnoreCase(std::string_view A, std::string_view B)
@@ -183,42 +133,5 @@ namespace OrvWebBridge
             Text.remove_suffix(1);
         }
         return Text;
-    }
-
-    bool FOrvStrings::IsValidUtf8(std::string_view Bytes)
-    {
-        for (std::size_t Index = 0; Index < Bytes.size();)
-        {
-            const std::size_t Length = OrvUtf8SequenceLength(Bytes, Index);
-            if (Length == 0)
-            {
-                return false;
-            }
-            Index += Length;
-        }
-        return true;
-    }
-
-    std::string FOrvStrings::SanitizeUtf8(std::string_view Bytes)
-    {
-        if (IsValidUtf8(Bytes))
-        {
-            return std::string(Bytes);
-        }
-        std::string Result;
-        Result.reserve(Bytes.size() + 8);
-        for (std::size_t Index = 0; Index < Bytes.size();)
-        {
-            const std::size_t Length = OrvUtf8SequenceLength(Bytes, Index);
-            if (Length == 0)
-            {
-                Result.append("\xEF\xBF\xBD");
-                ++Index;
-                continue;
-            }
-            Result.append(Bytes.substr(Index, Length));
-            Index += Length;
-        }
-        return Result;
     }
 } // namespace OrvWebBridge

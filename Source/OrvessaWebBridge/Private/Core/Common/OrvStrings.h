@@ -48,11 +48,5 @@ namespace OrvWebBridge
 
         /** Removes spaces, tabs and line ends at both ends. */
         static std::string_view Trim(std::string_view Text);
-
-        /** Bytes decoded as UTF-8: valid input comes back unchanged, each invalid sequence becomes U+FFFD. */
-        static std::string SanitizeUtf8(std::string_view Bytes);
-
-        /** Whether Bytes is well-formed UTF-8. */
-        static bool IsValidUtf8(std::string_view Bytes);
     };
 } // namespace OrvWebBridge

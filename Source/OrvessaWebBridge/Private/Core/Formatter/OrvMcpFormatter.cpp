@@ -23,23 +23,9 @@ namespace OrvWebBridge
 
         constexpr std::string_view OrvCardRule = "\n\n---\n\n";
 
-        // The engine's JSON objects match field names ignoring case, and a repeated name keeps the last
-        // value.
         const rapidjson::Value* OrvCardFindField(const rapidjson::Value* Object, std::string_view Key)
         {
-            if (!Object || !Object->IsObject())
-            {
-                return nullptr;
-            }
-            const rapidjson::Value* Found = nullptr;
-            for (auto It = Object->MemberBegin(); It != Object->MemberEnd(); ++It)
-            {
-                if (FOrvStrings::EqualsIgnoreCase(FOrvJson::View(It->name), Key))
-                {
-                    Found = &It->value;
-                }
-            }
-            return Found;
+            return Object ? FOrvJson::FindField(*Object, Key) : nullptr;
         }
 
         // The engine's string access: numbers print through SanitizeFloat with no forced fraction.

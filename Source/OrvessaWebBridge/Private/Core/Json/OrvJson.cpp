@@ -1,15 +1,216 @@
 #include "Core/Json/OrvJson.h"
 
+#include "Core/Common/OrvStrings.h"
+#include "Core/Common/OrvUtf8.h"
 #include "Core/Json/OrvRapidJson.h"
 
-#include <cstring>
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <system_error>
 
 namespace OrvWebBridge
 {
+    namespace
+    {
+        // Whether a number that a double cannot hold is too large (rather than too small): the decimal
+        // position of its first significant digit plus its exponent decides.
+        bool OrvJsonIsBeyondDouble(std::string_view Number)
+        {
+            const std::size_t ExponentAt = Number.find_first_of("eE");
+            const std::string_view Mantissa = Number.substr(0, ExponentAt);
+            long long Exponent = 0;
+            if (ExponentAt != std::string_view::npos)
+            {
+                std::string_view Written = Number.substr(ExponentAt + 1);
+                const bool bNegative = !Written.empty() && Written.front() == '-';
+                if (!Written.empty() && (Written.front() == '+' || Written.front() == '-'))
+                {
+                    Written.remove_prefix(1);
+                }
+                if (std::from_chars(Written.data(), Written.data() + Written.size(), Exponent).ec !=
+                    std::errc())
+                {
+                    Exponent = 1LL << 40; // more digits than any text could make up for
+                }
+                Exponent = bNegative ? -Exponent : Exponent;
+            }
+            const std::size_t Point = std::min(Mantissa.find('.'), Mantissa.size());
+            const std::size_t First = Mantissa.find_first_of("123456789");
+            const long long Magnitude = First < Point ? static_cast<long long>(Point - First)
+                                                      : -static_cast<long long>(First - Point - 1);
+            return Magnitude + Exponent > 0;
+        }
+
+        // Forwards RapidJSON's events to the document and stops the parse at the first array or object
+        // that would nest deeper than FOrvJson::MaxDepth.
+        class FOrvJsonDepthLimit
+        {
+        public:
+            FOrvJsonDepthLimit(rapidjson::Document& InTarget, bool bInValidateUtf8)
+                : Target(InTarget), bValidateUtf8(bInValidateUtf8)
+            {
+            }
+
+            bool Null() { return Target.Null(); }
+            bool Bool(bool bValue) { return Target.Bool(bValue); }
+            bool Int(int Value) { return Target.Int(Value); }
+            bool Uint(unsigned Value) { return Target.Uint(Value); }
+            bool Int64(std::int64_t Value) { return Target.Int64(Value); }
+            bool Uint64(std::uint64_t Value) { return Target.Uint64(Value); }
+            // RapidJSON refuses exponents beyond 308 but lets "21e308" round to infinity, which JSON cannot
+            // write back (it would come out as null): as large a number is refused the same way.
+            bool Double(double Value)
+            {
+                if (!std::isfinite(Value))
+                {
+                    ValueError = rapidjson::kParseErrorNumberTooBig;
+                    return false;
+                }
+                return Target.Double(Value);
+            }
+            // Only called in full-precision reads, which take numbers as text (kParseNumbersAsStringsFlag):
+            // converted here as strtod converts them, correctly rounded. (RapidJSON 1.1.0's own
+            // full-precision conversion has undefined behaviour on zeros written with a fraction and on long
+            // fractions.)
+            bool RawNumber(const char* Text, rapidjson::SizeType Length, bool)
+            {
+                const std::string_view Number(Text, Length);
+                if (Number.find_first_of(".eE") == std::string_view::npos)
+                {
+                    // Integers as RapidJSON keeps them; beyond 64 bits, a double like any other number.
+                    if (Number.front() == '-')
+                    {
+                        std::int64_t Value = 0;
+                        if (std::from_chars(Text, Text + Length, Value).ec == std::errc())
+                        {
+                            return Target.Int64(Value);
+                        }
+                    }
+                    else
+                    {
+                        std::uint64_t Value = 0;
+                        if (std::from_chars(Text, Text + Length, Value).ec == std::errc())
+                        {
+                            return Target.Uint64(Value);
+                        }
+                    }
+                }
+                double Value = 0.0;
+                if (std::from_chars(Text, Text + Length, Value).ec == std::errc::result_out_of_range)
+                {
+                    if (OrvJsonIsBeyondDouble(Number))
+                    {
+                        ValueError = rapidjson::kParseErrorNumberTooBig;
+                        return false;
+                    }
+                    Value = Number.front() == '-' ? -0.0 : 0.0; // too small: zero, as strtod underflows
+                }
+                return Target.Double(Value);
+            }
+            bool String(const char* Text, rapidjson::SizeType Length, bool bCopy)
+            {
+                return CheckText(Text, Length) && Target.String(Text, Length, bCopy);
+            }
+            bool Key(const char* Text, rapidjson::SizeType Length, bool bCopy)
+            {
+                return CheckText(Text, Length) && Target.Key(Text, Length, bCopy);
+            }
+            bool StartObject() { return Enter() && Target.StartObject(); }
+            bool EndObject(rapidjson::SizeType MemberCount)
+            {
+                --Depth;
+                return Target.EndObject(MemberCount);
+            }
+            bool StartArray() { return Enter() && Target.StartArray(); }
+            bool EndArray(rapidjson::SizeType ElementCount)
+            {
+                --Depth;
+                return Target.EndArray(ElementCount);
+            }
+
+            bool bTooDeep = false;
+            rapidjson::ParseErrorCode ValueError = rapidjson::kParseErrorNone; ///< of one string or number
+
+        private:
+            // RapidJSON validates the bytes of the text, not what escapes decode to: a lone \udc00 becomes
+            // bytes that are not UTF-8. A read that asked for valid UTF-8 refuses those too.
+            bool CheckText(const char* Text, rapidjson::SizeType Length)
+            {
+                if (bValidateUtf8 && !FOrvUtf8::IsValid({Text, Length}))
+                {
+                    ValueError = rapidjson::kParseErrorStringInvalidEncoding;
+                    return false;
+                }
+                return true;
+            }
+
+            bool Enter()
+            {
+                bTooDeep = ++Depth > FOrvJson::MaxDepth;
+                return !bTooDeep;
+            }
+
+            rapidjson::Document& Target;
+            bool bValidateUtf8 = false;
+            int Depth = 0;
+        };
+
+        template <unsigned Flags>
+        bool OrvJsonParse(std::string_view Text, rapidjson::Document& Out, FOrvJsonParseError& OutError)
+        {
+            rapidjson::MemoryStream Bytes(Text.data(), Text.size());
+            rapidjson::EncodedInputStream<rapidjson::UTF8<>, rapidjson::MemoryStream> Stream(Bytes);
+            rapidjson::Reader Reader;
+            rapidjson::ParseResult Result;
+            bool bTooDeep = false;
+            const auto Generate = [&](rapidjson::Document& Target)
+            {
+                FOrvJsonDepthLimit Handler(Target, (Flags & rapidjson::kParseValidateEncodingFlag) != 0);
+                Result = Reader.Parse<Flags | rapidjson::kParseIterativeFlag>(Stream, Handler);
+                bTooDeep = Handler.bTooDeep;
+                if (Handler.ValueError != rapidjson::kParseErrorNone)
+                {
+                    Result.Set(Handler.ValueError, Result.Offset());
+                }
+                return !Result.IsError();
+            };
+            Out.SetNull();
+            Out.Populate(Generate);
+            OutError = {};
+            if (!Result.IsError())
+            {
+                return true;
+            }
+            OutError.Code = Result.Code();
+            OutError.Offset = Result.Offset(); // for nesting, the bracket that went too deep
+            OutError.bTooDeep = bTooDeep;
+            return false;
+        }
+    } // namespace
+
+    bool FOrvJson::Parse(std::string_view Text, rapidjson::Document& Out, FOrvJsonParseError* OutError,
+                         FOrvJsonParseOptions Options)
+    {
+        FOrvJsonParseError Error;
+        constexpr unsigned Validate = rapidjson::kParseValidateEncodingFlag;
+        constexpr unsigned Precise = rapidjson::kParseNumbersAsStringsFlag; // converted in RawNumber
+        const bool bOk =
+            Options.bValidateUtf8
+                ? (Options.bFullPrecision ? OrvJsonParse<Validate | Precise>(Text, Out, Error)
+                                          : OrvJsonParse<Validate>(Text, Out, Error))
+                : (Options.bFullPrecision ? OrvJsonParse<Precise>(Text, Out, Error)
+                                          : OrvJsonParse<rapidjson::kParseNoFlags>(Text, Out, Error));
+        if (OutError)
+        {
+            *OutError = Error;
+        }
+        return bOk;
+    }
+
     bool FOrvJson::ParseObject(std::string_view Text, rapidjson::Document& Out)
     {
-        Out.Parse(Text.data(), Text.size());
-        return !Out.HasParseError() && Out.IsObject();
+        return Parse(Text, Out) && Out.IsObject();
     }
 
     const rapidjson::Value* FOrvJson::FindField(const rapidjson::Value& Object, std::string_view Key)
@@ -18,15 +219,15 @@ namespace OrvWebBridge
         {
             return nullptr;
         }
+        const rapidjson::Value* Found = nullptr;
         for (auto It = Object.MemberBegin(); It != Object.MemberEnd(); ++It)
         {
-            if (It->name.GetStringLength() == Key.size() &&
-                std::memcmp(It->name.GetString(), Key.data(), Key.size()) == 0)
+            if (FOrvStrings::EqualsIgnoreCase(View(It->name), Key))
             {
-                return &It->value;
+                Found = &It->value;
             }
         }
-        return nullptr;
+        return Found;
     }
 
     const rapidjson::Value* FOrvJson::TryGetObjectField(const rapidjson::Value& Object, std::string_view Key)
@@ -59,9 +260,10 @@ namespace OrvWebBridge
         return Result;
     }
 
-    std::string FOrvJson::DescribeParseError(std::string_view Text, const rapidjson::Document& Failed)
+    std::string FOrvJson::DescribeParseError(std::string_view Text, const FOrvJsonParseError& Error)
     {
-        std::size_t Offset = Failed.HasParseError() ? Failed.GetErrorOffset() : 0;
+        const bool bFailed = Error.bTooDeep || Error.Code != rapidjson::kParseErrorNone;
+        std::size_t Offset = bFailed ? Error.Offset : 0;
         if (Offset > Text.size())
         {
             Offset = Text.size();
@@ -80,8 +282,15 @@ namespace OrvWebBridge
                 ++Column;
             }
         }
-        const char* Reason = Failed.HasParseError() ? rapidjson::GetParseError_En(Failed.GetParseError())
-                                                    : "the top-level value is not an object";
+        std::string Reason = "the top-level value is not an object";
+        if (Error.bTooDeep)
+        {
+            Reason = "arrays and objects nest deeper than " + std::to_string(MaxDepth) + " levels";
+        }
+        else if (bFailed)
+        {
+            Reason = rapidjson::GetParseError_En(Error.Code);
+        }
         return "line " + std::to_string(Line) + ", column " + std::to_string(Column) + ": " + Reason;
     }
 } // namespace OrvWebBridge

@@ -8,14 +8,44 @@
 
 namespace OrvWebBridge
 {
+    /** @brief Why a text did not parse: RapidJSON's code and offset, or nesting beyond FOrvJson::MaxDepth. */
+    struct FOrvJsonParseError
+    {
+        rapidjson::ParseErrorCode Code = rapidjson::kParseErrorNone;
+        std::size_t Offset = 0; ///< byte offset of the problem in the text
+        bool bTooDeep = false;
+    };
+
+    /** @brief How strictly a reader wants its text read. */
+    struct FOrvJsonParseOptions
+    {
+        /** Refuse text that is not UTF-8, escapes included (else it passes and the writer repairs it). */
+        bool bValidateUtf8 = false;
+        /** Numbers read as strtod reads them, correctly rounded. */
+        bool bFullPrecision = false;
+    };
+
     /** @brief Small read helpers over RapidJSON values, in the spirit of FJsonObject's TryGet* calls. */
     struct FOrvJson
     {
+        /** Deepest nesting of arrays and objects any text may have; no real message comes near it. */
+        static constexpr int MaxDepth = 256;
+
+        /**
+         * The one way text becomes JSON, for every reader of the core and the host. Parses without
+         * recursion, so hostile nesting cannot exhaust the stack, and refuses nesting deeper than MaxDepth,
+         * so nothing that walks the value later recurses deeper than that. False on failure, with the
+         * reason in OutError when given.
+         */
+        static bool Parse(std::string_view Text, rapidjson::Document& Out,
+                          FOrvJsonParseError* OutError = nullptr, FOrvJsonParseOptions Options = {});
+
         /** Parses Text into Out; true only when it is valid JSON whose root is an object. */
         static bool ParseObject(std::string_view Text, rapidjson::Document& Out);
 
-        /** The member named Key of an object value (first one when repeated); null when absent or not an
-         * object.
+        /**
+         * The member named Key of an object value as the engine's FJsonObject finds it: names compare
+         * ignoring case and a repeated name yields its last value. Null when absent or not an object.
          */
         static const rapidjson::Value* FindField(const rapidjson::Value& Object, std::string_view Key);
 
@@ -38,7 +68,9 @@ namespace OrvWebBridge
             return {StringValue.GetString(), StringValue.GetStringLength()};
         }
 
-        /** Describes where a parse failed: "line L, column C: reason". */
-        static std::string DescribeParseError(std::string_view Text, const rapidjson::Document& Failed);
+        /** Describes where a parse failed: "line L, column C: reason"; with no error, that the root is not
+         * an object.
+         */
+        static std::string DescribeParseError(std::string_view Text, const FOrvJsonParseError& Error);
     };
 } // namespace OrvWebBridge

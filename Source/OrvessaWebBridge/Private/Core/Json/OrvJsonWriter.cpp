@@ -1,5 +1,6 @@
 #include "Core/Json/OrvJsonWriter.h"
 
+#include "Core/Common/OrvUtf8.h"
 #include "Core/Json/OrvRapidJson.h"
 
 #include <array>
@@ -9,13 +10,18 @@ namespace OrvWebBridge
 {
     namespace
     {
-        // 0 = copy as is, 'u' = \u00XX, anything else = the character after the backslash.
+        // 0 = copy as is, 'u' = \u00XX, '8' = a non-ASCII byte whose sequence must be valid UTF-8,
+        // anything else = the character after the backslash.
         constexpr std::array<char, 256> MakeOrvJsonEscapeTable()
         {
             std::array<char, 256> Table{};
             for (int Index = 0; Index < 0x20; ++Index)
             {
                 Table[Index] = 'u';
+            }
+            for (int Index = 0x80; Index < 0x100; ++Index)
+            {
+                Table[Index] = '8';
             }
             Table['\b'] = 'b';
             Table['\f'] = 'f';
@@ -32,6 +38,8 @@ namespace OrvWebBridge
         constexpr double OrvMaxExactInteger = 9007199254740992.0;
     } // namespace
 
+    // Everything written is valid UTF-8: ill-formed input (bytes that are not UTF-8, or a lone surrogate
+    // that a \udc00 escape produced) becomes U+FFFD here, the one place all JSON text passes through.
     void OrvAppendJsonEscaped(std::string& Out, std::string_view Value)
     {
         const char* Run = Value.data();
@@ -41,6 +49,20 @@ namespace OrvWebBridge
             const char Escape = OrvJsonEscapeTable[static_cast<unsigned char>(*Cursor)];
             if (Escape == 0)
             {
+                continue;
+            }
+            if (Escape == '8')
+            {
+                bool bValid = false;
+                const std::size_t Length =
+                    FOrvUtf8::Measure({Cursor, static_cast<std::size_t>(End - Cursor)}, bValid);
+                if (!bValid)
+                {
+                    Out.append(Run, Cursor);
+                    Out.append(FOrvUtf8::Replacement);
+                    Run = Cursor + Length;
+                }
+                Cursor += Length - 1;
                 continue;
             }
             Out.append(Run, Cursor);
@@ -396,6 +418,21 @@ namespace OrvWebBridge
             WriteMemberValue(Value);
             break;
         }
+    }
+
+    void FOrvJsonWriter::CondensedValue(std::string_view Key, const rapidjson::Value& Value)
+    {
+        if (!Value.IsArray() && !Value.IsObject())
+        {
+            this->Value(Key, Value);
+            return;
+        }
+        WriteIdentifier(Key);
+        Space();
+        const EOrvJsonStyle OuterStyle = Style;
+        Style = EOrvJsonStyle::Condensed;
+        WriteElementValue(Value);
+        Style = OuterStyle;
     }
 
     void FOrvJsonWriter::WriteMemberValue(const rapidjson::Value& Value)

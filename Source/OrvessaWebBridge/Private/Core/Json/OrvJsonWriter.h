@@ -50,6 +50,13 @@ namespace OrvWebBridge
         void Value(const rapidjson::Value& Value);
         void Value(std::string_view Key, const rapidjson::Value& Value);
 
+        /**
+         * A member whose array or object value is written condensed, on the member's line, whatever the
+         * style: pretty layout indents every line by its depth, so deeply nested text from outside would
+         * grow with the square of its depth. Scalars are written as Value writes them.
+         */
+        void CondensedValue(std::string_view Key, const rapidjson::Value& Value);
+
         /** A string member whose text the caller guarantees needs no escaping (Base64): copied as is. */
         void UnescapedString(std::string_view Key, std::string_view Value);
 
@@ -87,7 +94,10 @@ namespace OrvWebBridge
         EToken Previous = EToken::None;
     };
 
-    /** @brief Appends Value to Out as JSON string contents (no quotes), escaped as the engine escapes. */
+    /**
+     * @brief Appends Value to Out as JSON string contents (no quotes), escaped as the engine escapes, with
+     * every ill-formed UTF-8 part replaced by U+FFFD.
+     */
     void OrvAppendJsonEscaped(std::string& Out, std::string_view Value);
 
     /** @brief Appends a number in the writer's format (shortest round-trip, integral without fraction). */

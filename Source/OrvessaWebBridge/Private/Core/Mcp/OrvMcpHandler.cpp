@@ -61,7 +61,7 @@ namespace OrvWebBridge
             FOrvJsonWriter Writer(Out);
             Writer.BeginObject();
             Writer.String("jsonrpc", "2.0");
-            Writer.Value("id", Id);
+            Writer.CondensedValue("id", Id);
             Out.append(Tail);
             return Out;
         }
@@ -189,6 +189,8 @@ namespace OrvWebBridge
         OnComplete(MakeContentText(std::move(Text)));
     }
 
+    // The id is echoed as received; one that is an array or an object (which JSON-RPC does not allow) is
+    // written condensed, so that an answer never grows faster than its request.
     std::string FOrvMcpHandler::MakeResultEnvelope(const rapidjson::Value& Id,
                                                    const FOrvResultWriter& WriteResult)
     {
@@ -197,7 +199,7 @@ namespace OrvWebBridge
         FOrvJsonWriter Writer(Out);
         Writer.BeginObject();
         Writer.String("jsonrpc", "2.0");
-        Writer.Value("id", Id);
+        Writer.CondensedValue("id", Id);
         Writer.BeginObject("result");
         WriteResult(Writer);
         Writer.EndObject();
@@ -213,7 +215,7 @@ namespace OrvWebBridge
         FOrvJsonWriter Writer(Out);
         Writer.BeginObject();
         Writer.String("jsonrpc", "2.0");
-        Writer.Value("id", Id);
+        Writer.CondensedValue("id", Id);
         Writer.BeginObject("error");
         Writer.Integer("code", Code);
         Writer.String("message", Message);
@@ -233,7 +235,7 @@ namespace OrvWebBridge
         FOrvJsonWriter Writer(Out);
         Writer.BeginObject();
         Writer.String("jsonrpc", "2.0");
-        Writer.Value("id", Id);
+        Writer.CondensedValue("id", Id);
         Writer.BeginObject("result");
         Writer.BeginArray("content");
         Writer.BeginObject();

@@ -1,7 +1,7 @@
 #include "Core/Mcp/OrvMcpServer.h"
 
 #include "Core/Common/OrvLogging.h"
-#include "Core/Common/OrvStrings.h"
+#include "Core/Common/OrvUtf8.h"
 #include "Core/Mcp/OrvMcpHandler.h"
 
 #include <string>
@@ -40,14 +40,13 @@ namespace OrvWebBridge
                     OnComplete(std::move(Response));
                 };
                 // Nearly every body is valid UTF-8 already; only a broken one pays for a decoded copy.
-                if (FOrvStrings::IsValidUtf8(Request.Body))
+                if (FOrvUtf8::IsValid(Request.Body))
                 {
                     GetHandler().HandleRequest(Request.Body, std::move(OnResponse));
                 }
                 else
                 {
-                    GetHandler().HandleRequest(FOrvStrings::SanitizeUtf8(Request.Body),
-                                               std::move(OnResponse));
+                    GetHandler().HandleRequest(FOrvUtf8::MakeValid(Request.Body), std::move(OnResponse));
                 }
                 return true;
             };

@@ -19,6 +19,9 @@ namespace OrvWebBridge
         {
         }
 
+        /** Always this stand-in, as the editor's client is found while the maker's module has made it. */
+        IOrvCatalogApi* Find() { return this; }
+
         void Post(std::string_view Path, std::string JsonBody, FOrvApiCallback OnComplete) override;
         std::vector<FOrvCookie> GetCookies() const override { return {}; }
         void SetCookie(const FOrvCookie& Cookie) override;

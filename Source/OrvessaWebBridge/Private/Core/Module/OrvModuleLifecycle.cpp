@@ -1,6 +1,5 @@
 #include "Core/Module/OrvModuleLifecycle.h"
 
-#include "Core/Common/OrvConstants.h"
 #include "Core/Common/OrvLogging.h"
 
 namespace OrvWebBridge
@@ -23,8 +22,8 @@ namespace OrvWebBridge
         }
     } // namespace
 
-    FOrvModuleLifecycle::FOrvModuleLifecycle(IOrvModuleHost& InHost, IOrvLog& InLog)
-        : Host(InHost), Log(InLog), Lifetime(std::make_shared<FOrvModuleLifecycle*>(this))
+    FOrvModuleLifecycle::FOrvModuleLifecycle(IOrvModuleHost& InHost, IOrvLog& InLog, std::uint32_t InMcpPort)
+        : Host(InHost), Log(InLog), McpPort(InMcpPort), Lifetime(std::make_shared<FOrvModuleLifecycle*>(this))
     {
     }
 
@@ -142,18 +141,18 @@ namespace OrvWebBridge
 
     void FOrvModuleLifecycle::StartMcpServer()
     {
-        const std::uint32_t Port = FOrvConstants::McpPort;
-        bMcpServerRunning = Host.StartMcpServer(Port);
+        const std::uint32_t BoundPort = Host.StartMcpServer(McpPort);
+        bMcpServerRunning = BoundPort != 0;
         if (bMcpServerRunning)
         {
             OrvLogf(Log, EOrvLogCategory::LogTemp, EOrvLogVerbosity::Display,
-                    "Orv MCP: server listening on http://127.0.0.1:%u/sse", Port);
+                    "Orv MCP: server listening on http://127.0.0.1:%u/sse", BoundPort);
             return;
         }
         // The endpoint is the only start-up step allowed to fail, and it never fails the module.
         OrvLogf(Log, EOrvLogCategory::LogTemp, EOrvLogVerbosity::Warning,
                 "Orv MCP: failed to start server on port %u (port in use? firewall?). Other plugin "
                 "functionality is unaffected.",
-                Port);
+                McpPort);
     }
 } // namespace OrvWebBridge

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "Core/Common/OrvConstants.h"
 #include "Core/Ports/IOrvLog.h"
 #include "Core/Ports/IOrvModuleHost.h"
 
 #include <array>
+#include <cstdint>
 #include <memory>
 
 namespace OrvWebBridge
@@ -46,7 +48,9 @@ namespace OrvWebBridge
             EOrvModuleStep::OutlinerTabSpawner,
         };
 
-        FOrvModuleLifecycle(IOrvModuleHost& InHost, IOrvLog& InLog);
+        /** McpPort is the editor's 30011 unless a host serves elsewhere (0: the system chooses). */
+        FOrvModuleLifecycle(IOrvModuleHost& InHost, IOrvLog& InLog,
+                            std::uint32_t InMcpPort = FOrvConstants::McpPort);
         ~FOrvModuleLifecycle();
         FOrvModuleLifecycle(const FOrvModuleLifecycle&) = delete;
         FOrvModuleLifecycle& operator=(const FOrvModuleLifecycle&) = delete;
@@ -69,6 +73,7 @@ namespace OrvWebBridge
 
         IOrvModuleHost& Host;
         IOrvLog& Log;
+        std::uint32_t McpPort;
         std::array<bool, OrvModuleStepCount> Done{};
         bool bStarted = false;
         bool bMcpServerRunning = false;

@@ -1,6 +1,8 @@
 #include "Core/Outliner/OrvOutlinerBatchAnswer.h"
 
 #include "Core/Common/OrvStrings.h"
+#include "Core/Common/OrvUtf8.h"
+#include "Core/Json/OrvJson.h"
 
 #include <cstdlib>
 #include <string_view>
@@ -9,20 +11,6 @@ namespace OrvWebBridge
 {
     namespace
     {
-        // FJsonObject keys compare without case and a repeated key keeps the last value.
-        const rapidjson::Value* OrvBatchAnswerFindField(const rapidjson::Value& Object, std::string_view Key)
-        {
-            const rapidjson::Value* Found = nullptr;
-            for (auto It = Object.MemberBegin(); It != Object.MemberEnd(); ++It)
-            {
-                if (FOrvStrings::EqualsIgnoreCase({It->name.GetString(), It->name.GetStringLength()}, Key))
-                {
-                    Found = &It->value;
-                }
-            }
-            return Found;
-        }
-
         // FString::SanitizeFloat(Value, 0): "%f" without trailing zeros, and without the point when none
         // remain.
         std::string OrvBatchAnswerNumberText(const rapidjson::Value& Number)
@@ -52,6 +40,7 @@ namespace OrvWebBridge
         }
 
         // FJsonValue::TryGetString: strings as they are, numbers and booleans as text, anything else fails.
+        // Catalogue text goes on to the panel, the log and the CSV file, so it is made valid UTF-8 here.
         bool OrvBatchAnswerTryGetString(const rapidjson::Value* Field, std::string& Out)
         {
             if (!Field)
@@ -60,7 +49,7 @@ namespace OrvWebBridge
             }
             if (Field->IsString())
             {
-                Out.assign(Field->GetString(), Field->GetStringLength());
+                Out = FOrvUtf8::MakeValid(FOrvJson::View(*Field));
                 return true;
             }
             if (Field->IsBool())
@@ -80,7 +69,7 @@ namespace OrvWebBridge
         std::string OrvBatchAnswerStringField(const rapidjson::Value& Object, std::string_view Key)
         {
             std::string Text;
-            OrvBatchAnswerTryGetString(OrvBatchAnswerFindField(Object, Key), Text);
+            OrvBatchAnswerTryGetString(FOrvJson::FindField(Object, Key), Text);
             return Text;
         }
 
@@ -88,7 +77,7 @@ namespace OrvWebBridge
         std::string OrvBatchAnswerOptionalField(const rapidjson::Value& Object, std::string_view Key)
         {
             std::string Text;
-            if (!OrvBatchAnswerTryGetString(OrvBatchAnswerFindField(Object, Key), Text) ||
+            if (!OrvBatchAnswerTryGetString(FOrvJson::FindField(Object, Key), Text) ||
                 FOrvStrings::EqualsIgnoreCase(Text, "null"))
             {
                 return {};
@@ -99,7 +88,7 @@ namespace OrvWebBridge
         // GetBoolField: a missing field is false; numbers and texts convert as FJsonValue::TryGetBool does.
         bool OrvBatchAnswerStatus(const rapidjson::Value& Answer)
         {
-            const rapidjson::Value* Status = OrvBatchAnswerFindField(Answer, "status");
+            const rapidjson::Value* Status = FOrvJson::FindField(Answer, "status");
             if (!Status)
             {
                 return false;
@@ -157,7 +146,7 @@ namespace OrvWebBridge
 
         // The service keys "products" by id, but only each record's "id" is relied on; a plain array is read
         // too.
-        if (const rapidjson::Value* Products = OrvBatchAnswerFindField(*Answer, "products"))
+        if (const rapidjson::Value* Products = FOrvJson::FindField(*Answer, "products"))
         {
             if (Products->IsObject())
             {
@@ -183,7 +172,7 @@ namespace OrvWebBridge
             }
         }
 
-        if (const rapidjson::Value* Missing = OrvBatchAnswerFindField(*Answer, "missing");
+        if (const rapidjson::Value* Missing = FOrvJson::FindField(*Answer, "missing");
             Missing && Missing->IsArray())
         {
             for (const rapidjson::Value& Id : Missing->GetArray())

@@ -3,6 +3,7 @@
 #include "Core/Common/OrvConstants.h"
 #include "Core/Common/OrvLogging.h"
 #include "Core/Common/OrvStrings.h"
+#include "Core/Common/OrvUtf8.h"
 #include "Core/Outliner/OrvOutlinerScheduleOrder.h"
 #include "Core/Outliner/OrvOutlinerTreeBuilder.h"
 
@@ -139,9 +140,11 @@ namespace OrvWebBridge
                     InMapOrder.size() * 24);
         Out.append("ORVESSA - Product Schedule,,,,,,,,,,\n");
         Out.append(OrvCsvSeparatorLine);
-        OrvCsvAppendHeaderValue(Out, "Project:,", EscapeCSVField(ProjectName));
+        // The product fields arrive as valid UTF-8 (the catalogue answer is read so); these two come from
+        // the user.
+        OrvCsvAppendHeaderValue(Out, "Project:,", EscapeCSVField(FOrvUtf8::MakeValid(ProjectName)));
         OrvCsvAppendHeaderValue(Out, "Date:,", Environment.GetLocalDate());
-        OrvCsvAppendHeaderValue(Out, "Revision:,", EscapeCSVField(Revision));
+        OrvCsvAppendHeaderValue(Out, "Revision:,", EscapeCSVField(FOrvUtf8::MakeValid(Revision)));
         Out.append(OrvCsvSeparatorLine);
         Out.append("Prepared by:,,,,,,,,,,\n"
                    "Name:,,,,,,,,,,\n"

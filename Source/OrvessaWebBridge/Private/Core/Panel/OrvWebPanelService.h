@@ -24,6 +24,15 @@ namespace OrvWebBridge
 
         IOrvWebPanel& GetPanel() const { return Panel; }
 
+        // What the panel's browser reports, logged the same wherever a browser shows the panel.
+        /** A message of the page's console; Severity is the browser's level number. */
+        static void LogConsoleMessage(IOrvLog& Log, int Severity, std::string_view Message,
+                                      std::string_view Source, int Line);
+        /** A page finished loading. */
+        static void LogLoadCompleted(IOrvLog& Log);
+        /** A page failed to load; the browser gives no reason. */
+        static void LogLoadError(IOrvLog& Log);
+
     private:
         IOrvWebPanel& Panel;
         IOrvLog& Log;

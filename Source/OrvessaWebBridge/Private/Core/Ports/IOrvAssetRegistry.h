@@ -9,6 +9,13 @@
 
 namespace OrvWebBridge
 {
+    /** @brief One entry of a mesh's asset user data array. */
+    struct FOrvAssetUserData
+    {
+        std::string ClassName;                     ///< the entry's class name, "None" for a null entry
+        std::optional<FOrvProductTag> ProductData; ///< set when the entry is a UOrvProductData
+    };
+
     /** @brief The asset registry and the object loader. Game thread only. */
     class IOrvAssetRegistry
     {
@@ -25,6 +32,11 @@ namespace OrvWebBridge
 
         /** Loads the asset (FAssetData::GetAsset); null unless it is a UStaticMesh. */
         virtual FOrvMeshRef LoadStaticMeshAsset(const FOrvAssetData& Asset) = 0;
+
+        /** Loads the asset as a UMaterialInstanceConstant and reads its package metadata value under Key:
+         *  nothing when it does not load as one, "" when it has no such value. */
+        virtual std::optional<std::string> LoadMaterialInstanceMetaData(const FOrvAssetData& Asset,
+                                                                        std::string_view Key) = 0;
     };
 
     /** @brief Queries on loaded static meshes (UStaticMesh). Game thread only. */
@@ -47,5 +59,8 @@ namespace OrvWebBridge
 
         /** GetAssetUserDataOfClass(UOrvProductData): the product tag, or nothing when the mesh has none. */
         virtual std::optional<FOrvProductTag> GetProductTag(FOrvMeshRef Mesh) const = 0;
+
+        /** GetAssetUserDataArray(): every entry in order; nothing when the mesh is gone or has no array. */
+        virtual std::optional<std::vector<FOrvAssetUserData>> GetAssetUserData(FOrvMeshRef Mesh) const = 0;
     };
 } // namespace OrvWebBridge

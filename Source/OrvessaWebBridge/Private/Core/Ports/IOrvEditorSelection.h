@@ -2,10 +2,13 @@
 
 #include "Core/Common/OrvTypes.h"
 
+#include <optional>
+#include <vector>
+
 namespace OrvWebBridge
 {
-    /** @brief The editor's actor selection (GEditor SelectNone / SelectActor / NoteSelectionChange). Game
-     * thread.
+    /** @brief The editor's actor selection (GEditor SelectNone / SelectActor / NoteSelectionChange /
+     * GetSelectedActors). Game thread.
      */
     class IOrvEditorSelection
     {
@@ -20,5 +23,9 @@ namespace OrvWebBridge
 
         /** Tells the editor once that the selection changed. */
         virtual void NoteSelectionChange() = 0;
+
+        /** The selected actors in selection order (other selected objects left out); nothing without an
+         *  editor engine (GEditor null). */
+        virtual std::optional<std::vector<FOrvActorRef>> GetSelectedActors() const = 0;
     };
 } // namespace OrvWebBridge

@@ -49,8 +49,11 @@ namespace OrvWebBridge
         /** Drops the deferred callback if it has not run yet. */
         virtual void CancelPostEngineInit() = 0;
 
-        /** Creates the MCP server and starts it on Port; false, and no server kept, when it cannot listen. */
-        virtual bool StartMcpServer(std::uint32_t Port) = 0;
+        /**
+         * Creates the MCP server and starts it on Port; the port it listens on (the one the system chose when
+         * Port is 0), or 0, and no server kept, when it cannot listen.
+         */
+        virtual std::uint32_t StartMcpServer(std::uint32_t Port) = 0;
 
         /** Stops and destroys the MCP server. */
         virtual void StopMcpServer() = 0;

@@ -18,6 +18,8 @@ namespace OrvWebBridge
         constexpr const char* OrvCaptureNoViewport =
             "{\"error\":\"No active editor viewport. Open a Level Editor viewport and try again.\"}";
         constexpr const char* OrvCaptureZeroSize = R"({"error":"Viewport has zero size."})";
+        constexpr const char* OrvCaptureTooLarge = "{\"error\":\"Viewport size %dx%d is larger than the "
+                                                   "engine's largest texture side (%d pixels).\"}";
         constexpr const char* OrvCaptureReadPixelsFailed = R"({"error":"Viewport->ReadPixels failed."})";
         constexpr const char* OrvCaptureSizeMismatch =
             "{\"error\":\"ReadPixels size mismatch \xE2\x80\x94 got %d pixels, expected %d.\"}";
@@ -68,6 +70,17 @@ namespace OrvWebBridge
     FOrvMcpContent FOrvViewportCapture::Capture(IOrvViewport& Viewport, IOrvImageWrapperModule& Images,
                                                 std::int32_t Quality)
     {
+        FOrvMcpContent Content = ReadAndEncode(Viewport, Images, Quality);
+        if (Pixels.capacity() > MaxKeptPixels)
+        {
+            std::vector<FOrvColor>().swap(Pixels);
+        }
+        return Content;
+    }
+
+    FOrvMcpContent FOrvViewportCapture::ReadAndEncode(IOrvViewport& Viewport, IOrvImageWrapperModule& Images,
+                                                      std::int32_t Quality)
+    {
         if (!Viewport.HasClientViewport())
         {
             return OrvCaptureError(OrvCaptureNoViewport);
@@ -77,7 +90,12 @@ namespace OrvWebBridge
         {
             return OrvCaptureError(OrvCaptureZeroSize);
         }
-        // The buffer is kept between captures: after the first frame of a size, reading costs no allocation.
+        if (Size.X > MaxSide || Size.Y > MaxSide)
+        {
+            return OrvCaptureError(FOrvStrings::Printf(OrvCaptureTooLarge, Size.X, Size.Y, MaxSide));
+        }
+        // The buffer is kept between captures: after the first frame of an ordinary size, reading costs no
+        // allocation.
         if (!Viewport.ReadPixels(Pixels))
         {
             return OrvCaptureError(OrvCaptureReadPixelsFailed);

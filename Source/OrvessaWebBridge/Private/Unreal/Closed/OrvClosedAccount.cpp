@@ -8,10 +8,16 @@
 
 namespace OrvWebBridge
 {
+    UOrvSubsystem* OrvClosedFindSubsystem()
+    {
+        // ASSUMED (2): an engine subsystem.
+        return GEngine ? GEngine->GetEngineSubsystem<UOrvSubsystem>() : nullptr;
+    }
+
     bool OrvClosedIsUserLoggedIn()
     {
-        // ASSUMED (2): an engine subsystem. ASSUMED (3): GetLoginState() is const and answers a bool.
-        const UOrvSubsystem* Subsystem = GEngine ? GEngine->GetEngineSubsystem<UOrvSubsystem>() : nullptr;
+        // ASSUMED (3): GetLoginState() is const and answers a bool.
+        const UOrvSubsystem* Subsystem = OrvClosedFindSubsystem();
         return Subsystem && Subsystem->GetLoginState();
     }
 } // namespace OrvWebBridge

@@ -14,8 +14,12 @@ namespace OrvWebBridge
     std::optional<FOrvProductTag> ReadClosedProductTag(UStaticMesh& Mesh)
     {
         // ASSUMED (2): UOrvProductData is exported; without that, StaticClass() fails to link here.
-        UOrvProductData* Tag =
-            Cast<UOrvProductData>(Mesh.GetAssetUserDataOfClass(UOrvProductData::StaticClass()));
+        return ReadClosedProductTag(Mesh.GetAssetUserDataOfClass(UOrvProductData::StaticClass()));
+    }
+
+    std::optional<FOrvProductTag> ReadClosedProductTag(UAssetUserData* Entry)
+    {
+        UOrvProductData* Tag = Cast<UOrvProductData>(Entry);
         if (!Tag)
         {
             return std::nullopt;

@@ -37,6 +37,11 @@ namespace OrvWebBridge
         }
     } // namespace
 
+    IOrvCatalogApi* FOrvUnrealCatalogApi::Find()
+    {
+        return UApiWrapper::GetInstance() ? this : nullptr;
+    }
+
     void FOrvUnrealCatalogApi::Post(std::string_view Path, std::string JsonBody, FOrvApiCallback OnComplete)
     {
         TSharedPtr<FJsonObject> Body;

@@ -19,6 +19,9 @@ namespace OrvWebBridge
     public:
         explicit FOrvUnrealCatalogApi(IOrvGameThread& InGameThread) : GameThread(InGameThread) {}
 
+        /** This client while the maker's module has made its UApiWrapper; null otherwise. */
+        IOrvCatalogApi* Find();
+
         virtual void Post(std::string_view Path, std::string JsonBody, FOrvApiCallback OnComplete) override;
         virtual std::vector<FOrvCookie> GetCookies() const override;
         virtual void SetCookie(const FOrvCookie& Cookie) override;

@@ -9,6 +9,7 @@
 
 class FSlateApplication;
 class ICursor;
+struct FKeyEvent;
 
 class IInputProcessor
 {
@@ -17,6 +18,10 @@ public:
     virtual ~IInputProcessor();
 
     virtual void Tick(const float DeltaTime, FSlateApplication& SlateApp, TSharedRef<ICursor> Cursor) = 0;
+    /** Key down input; true consumes the key. Docs:
+     *  https://dev.epicgames.com/documentation/unreal-engine/API/Runtime/Slate/Framework/Application/IInputProcessor/HandleKeyDownEvent?application_version=5.5
+     */
+    virtual bool HandleKeyDownEvent(FSlateApplication& SlateApp, const FKeyEvent& InKeyEvent);
     /** Debug name for logging purposes. */
     virtual const TCHAR* GetDebugName() const;
 };
