@@ -4,6 +4,7 @@
 // no connection outlives its client. Routes: an immediate GET, a deferred POST echo, an event stream and a
 // fallback, so every path of the connection is reachable.
 #include "Host/Runtime/OrvBeast.h"
+#include "Tests/Fuzz/Support/OrvFuzzCheck.h"
 #include "Tests/Support/OrvBeastServerRig.h"
 
 #include <boost/asio/read.hpp>
@@ -11,8 +12,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <memory>
 #include <optional>
 #include <string>
@@ -23,16 +22,6 @@ using namespace OrvWebBridge::OrvBeast;
 
 namespace
 {
-    void Check(bool bHolds, const char* Invariant, std::string_view Detail = {})
-    {
-        if (!bHolds)
-        {
-            std::fprintf(stderr, "Invariant broken: %s\n%.*s\n", Invariant,
-                         static_cast<int>(Detail.size() < 2000 ? Detail.size() : 2000), Detail.data());
-            std::abort();
-        }
-    }
-
     /** The test rig's server with a route of every kind: immediate, deferred, event stream, fallback. */
     struct FOrvFuzzServer : FOrvBeastServerRig
     {
@@ -82,12 +71,13 @@ namespace
                 // Only a response without a length may end with the connection.
                 Parser.put_eof(Error);
             }
-            Check(!Error && Parser.is_done(), "the server sends whole, well-formed responses", Received);
+            OrvFuzzCheck(!Error && Parser.is_done(), "the server sends whole, well-formed responses",
+                         Received);
             const auto& Response = Parser.get();
-            Check(Response.version() == 11, "responses are HTTP/1.1", Received);
-            Check(Response.result_int() == 100 || Response.has_content_length() ||
-                      Response[http::field::content_type] == "text/event-stream",
-                  "a response has a length unless it is an event stream", Received);
+            OrvFuzzCheck(Response.version() == 11, "responses are HTTP/1.1", Received);
+            OrvFuzzCheck(Response.result_int() == 100 || Response.has_content_length() ||
+                             Response[http::field::content_type] == "text/event-stream",
+                         "a response has a length unless it is an event stream", Received);
             Received.remove_prefix(Used);
         }
     }
@@ -102,7 +92,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* Data, std::size_t Size
     Client.async_connect({asio::ip::address_v4::loopback(), Server.Port()},
                          [&Connected](const FErrorCode& Error) { Connected = Error; });
     Server.Loop.RunUntil([&] { return Connected.has_value(); }, 5.0);
-    Check(Connected && !*Connected, "the server accepts", Connected ? Connected->message() : "no answer");
+    OrvFuzzCheck(Connected && !*Connected, "the server accepts",
+                 Connected ? Connected->message() : "no answer");
 
     // Written and read at once: the server may answer (and close) before it has read everything.
     asio::async_write(Client, asio::buffer(Data, Size),
@@ -115,11 +106,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* Data, std::size_t Size
     bool bClosed = false;
     asio::async_read(Client, asio::dynamic_buffer(Received),
                      [&bClosed](const FErrorCode&, std::size_t) { bClosed = true; });
-    Check(Server.Loop.RunUntil([&] { return bClosed; }, 10.0), "the server answers and closes in time");
+    OrvFuzzCheck(Server.Loop.RunUntil([&] { return bClosed; }, 5.0), "the server answers and closes in time");
     FErrorCode Ignored;
     Client.close(Ignored);
     CheckResponses(Received);
-    Check(Server.Loop.RunUntil([&] { return Server.Module.GetOpenConnectionCount() == 0; }, 5.0),
-          "no connection outlives its client");
+    OrvFuzzCheck(Server.Loop.RunUntil([&] { return Server.Module.GetOpenConnectionCount() == 0; }, 5.0),
+                 "no connection outlives its client");
     return 0;
 }
