@@ -118,7 +118,7 @@ namespace OrvWebBridge
             // A pipelined request arrived with the one before.
             Phase = EPhase::Header;
             RequestDeadline = IdleSince + Seconds(Shared->Limits.RequestTimeoutSeconds);
-            Advance(Reader.Parse());
+            Advance(Reader.ParseBuffered());
             return;
         }
         ReadSome();
@@ -166,7 +166,7 @@ namespace OrvWebBridge
             RequestDeadline =
                 std::chrono::steady_clock::now() + Seconds(Shared->Limits.RequestTimeoutSeconds);
         }
-        Advance(Reader.Parse());
+        Advance(Reader.ParseBuffered());
     }
 
     void FOrvBeastHttpConnection::Advance(EOrvHttpReadProgress Progress)
@@ -194,7 +194,7 @@ namespace OrvWebBridge
         RequestDeadline = std::chrono::steady_clock::now() + Seconds(Shared->Limits.RequestTimeoutSeconds);
         if (!Reader.WantsContinue())
         {
-            Advance(Reader.Parse());
+            Advance(Reader.ParseBuffered());
             return;
         }
         // curl and others wait for this before sending a body larger than 1 KiB.
@@ -207,7 +207,7 @@ namespace OrvWebBridge
                                   Self->Close();
                                   return;
                               }
-                              Self->Advance(Self->Reader.Parse());
+                              Self->Advance(Self->Reader.ParseBuffered());
                           });
     }
 

@@ -42,7 +42,7 @@ namespace OrvWebBridge
         return Buffer.prepare(std::min(Wanted, Room));
     }
 
-    EOrvHttpReadProgress FOrvBeastHttpRequestReader::Parse()
+    EOrvHttpReadProgress FOrvBeastHttpRequestReader::ParseBuffered()
     {
         while (Buffer.size() > 0 && !Parser->is_done())
         {

@@ -14,8 +14,8 @@ namespace OrvWebBridge
     /** @brief How far the request being read has come. */
     enum class EOrvHttpReadProgress
     {
-        NeedMore,   ///< read more bytes: Prepare, read into it, Commit, Parse
-        HeaderDone, ///< the header is in and acceptable; Parse again for the body
+        NeedMore,   ///< read more bytes: Prepare, read into it, Commit, ParseBuffered
+        HeaderDone, ///< the header is in and acceptable; ParseBuffered again for the body
         Complete,   ///< the whole request is in: TakeRequest
         Rejected,   ///< the request cannot be served: answer GetRejection() and close
     };
@@ -49,14 +49,14 @@ namespace OrvWebBridge
         /** Whether bytes of the request being read are already here. */
         bool HasBufferedBytes() const { return Buffer.size() > 0; }
 
-        /** Where the next read goes (never empty while Parse asks for more). */
+        /** Where the next read goes (never empty while ParseBuffered asks for more). */
         OrvBeast::asio::mutable_buffer Prepare();
 
         /** Adds Bytes read into the last Prepare. */
         void Commit(std::size_t Bytes) { Buffer.commit(Bytes); }
 
         /** Parses what has arrived. */
-        EOrvHttpReadProgress Parse();
+        EOrvHttpReadProgress ParseBuffered();
 
         /** Whether the client waits for "100 Continue" before it sends the body. */
         bool WantsContinue() const;
