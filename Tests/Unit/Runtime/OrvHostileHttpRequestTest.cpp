@@ -39,17 +39,12 @@ TEST(FOrvHostileHttpRequestTest, MalformedSmuggledAndOversizedRequestsGetAnError
     } Cases[] = {
         {"trailer field of 64 KiB",
          Chunked(Te, "1\r\nA\r\n0\r\nX-T: " + std::string(64 * 1024, 'a') + "\r\n\r\n"), 400},
-        {"endless trailer", Chunked(Te, "1\r\nA\r\n0\r\n" + std::string(256 * 1024, 'a')), 400},
         {"chunk-size line of 100 KB", Chunked(Te, std::string(100000, '0') + "1\r\nA\r\n0\r\n\r\n"), 400},
-        {"chunk extension of 100 KB", Chunked(Te, "1;" + std::string(100000, 'e') + "\r\nA\r\n0\r\n\r\n"),
-         400},
         {"Content-Length and chunked", Chunked("Content-Length: 3\r\n" + Te, "1\r\nA\r\n0\r\n\r\n"), 400},
         {"two Content-Lengths", Chunked("Content-Length: 1\r\nContent-Length: 2\r\n", "AB"), 400},
         {"chunked not last", Chunked("Transfer-Encoding: chunked, gzip\r\n", "1\r\nA\r\n0\r\n\r\n"), 400},
-        {"identity coding", Chunked("Transfer-Encoding: identity\r\n", "ABC"), 400},
         {"gzip then chunked", Chunked("Transfer-Encoding: gzip, chunked\r\n", "1\r\nA\r\n0\r\n\r\n"), 501},
         {"chunked in HTTP/1.0", "POST /mcp HTTP/1.0\r\n" + Te + "\r\n1\r\nA\r\n0\r\n\r\n", 400},
-        {"folded header line", Chunked("X-A: one\r\n two\r\nContent-Length: 2\r\n", "AB"), 400},
         {"folded Content-Length", Chunked("Content-Length:\r\n 2\r\n", "AB"), 400},
         {"bare line feeds", "POST /mcp HTTP/1.1\nHost: x\nContent-Length: 2\n\nAB", 400},
         {"HTTP/0.9", "GET /mcp\r\n\r\n", 400},
@@ -57,8 +52,6 @@ TEST(FOrvHostileHttpRequestTest, MalformedSmuggledAndOversizedRequestsGetAnError
         {"control byte in the method", "P\x01ST /mcp HTTP/1.1\r\nHost: x\r\n\r\n", 400},
         {"method of 70 KB", std::string(70000, 'P') + " /mcp HTTP/1.1\r\nHost: x\r\n\r\n", 431},
         {"absolute target", Chunked("Content-Length: 2\r\n", "AB").replace(5, 4, "http://evil/mcp"), 400},
-        {"asterisk target", "POST * HTTP/1.1\r\nHost: x\r\nContent-Length: 0\r\n\r\n", 400},
-        {"not HTTP at all", "NOT HTTP AT ALL\r\n\r\n", 400},
     };
     for (const auto& [Case, Bytes, Status] : Cases)
     {
