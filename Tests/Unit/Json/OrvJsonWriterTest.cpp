@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
+
 using namespace OrvWebBridge;
 
 namespace
@@ -93,6 +95,29 @@ TEST(FOrvJsonTest, NestingIsBoundedWithoutRecursionAndTheErrorSaysWhere)
     EXPECT_TRUE(Error.bTooDeep);
     EXPECT_FALSE(FOrvJson::Parse(R"({"a":[1,}])", Document, &Error));
     EXPECT_EQ(FOrvJson::DescribeParseError(R"({"a":[1,}])", Error), "line 1, column 9: Invalid value.");
+}
+
+TEST(FOrvJsonTest, FullPrecisionNumbersRoundCorrectlyUnderflowToZeroAndRefuseOverflow)
+{
+    const auto Read = [](const std::string& Text) -> std::optional<double>
+    {
+        rapidjson::Document Document;
+        if (!FOrvJson::Parse(Text, Document, nullptr, {.bFullPrecision = true}))
+        {
+            return std::nullopt;
+        }
+        return Document.GetDouble();
+    };
+    EXPECT_EQ(Read("0.1"), 0.1);
+    EXPECT_EQ(Read("0.0e30"), 0.0);
+    EXPECT_EQ(Read("0." + std::string(400, '0') + "1"), 0.0);
+    EXPECT_EQ(Read("-1e-400"), -0.0);
+    EXPECT_EQ(Read("1e-9223372036854775807"), 0.0);
+    EXPECT_EQ(Read("0.00000000000000000000000000000020e-" + std::string(150, '0') + "9223372036854775807"),
+              0.0);
+    EXPECT_EQ(Read("1e99999999999999999999999"), std::nullopt);
+    EXPECT_EQ(Read("21e308"), std::nullopt);
+    EXPECT_EQ(Read("0.000001e309"), 1e303);
 }
 
 TEST(FOrvJsonTest, ParseObjectRejectsArraysScalarsAndGarbage)

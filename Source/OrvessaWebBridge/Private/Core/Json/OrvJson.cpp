@@ -28,15 +28,23 @@ namespace OrvWebBridge
                 {
                     Written.remove_prefix(1);
                 }
+                // Past 2^40 no text is long enough to make up for the exponent; the clamp also keeps the sum
+                // below from overflowing.
+                constexpr long long Beyond = 1LL << 40;
                 if (std::from_chars(Written.data(), Written.data() + Written.size(), Exponent).ec !=
                     std::errc())
                 {
-                    Exponent = 1LL << 40; // more digits than any text could make up for
+                    Exponent = Beyond;
                 }
+                Exponent = std::min(Exponent, Beyond);
                 Exponent = bNegative ? -Exponent : Exponent;
             }
             const std::size_t Point = std::min(Mantissa.find('.'), Mantissa.size());
             const std::size_t First = Mantissa.find_first_of("123456789");
+            if (First == std::string_view::npos)
+            {
+                return false; // zero, whatever its exponent
+            }
             const long long Magnitude = First < Point ? static_cast<long long>(Point - First)
                                                       : -static_cast<long long>(First - Point - 1);
             return Magnitude + Exponent > 0;
