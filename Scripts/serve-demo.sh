@@ -5,7 +5,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-bash Scripts/install-deps.sh
+bash Scripts/install-deps.sh --serve
 cmake -S . -B build -G Ninja -DCMAKE_BUILD_TYPE=Release -DORV_BUILD_TESTS=OFF -DORV_BUILD_BENCHMARKS=OFF >/dev/null
 cmake --build build --target orv-host
 exec ./build/orv-host serve "$@"
