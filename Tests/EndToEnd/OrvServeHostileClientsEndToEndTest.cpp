@@ -1,3 +1,8 @@
+// What a hostile page or process on the user's machine can throw at the real orv-host: JSON attacks on the
+// endpoint, then hundreds of connections that say nothing or send their request a byte at a time. None may
+// crash, stall or balloon it: the user's AI client is still answered at once, the host is back where it was
+// afterwards and the level is as it was. (Malformed HTTP gets its answers in the server's own tests.)
+#include "Core/Common/OrvUtf8.h"
 #include "Tests/Support/OrvServedHost.h"
 
 #include <gtest/gtest.h>
@@ -34,43 +39,61 @@ namespace
         }
         return 0;
     }
+
+    std::string Repeat(std::string_view Text, std::size_t Count)
+    {
+        std::string Out;
+        for (std::size_t Index = 0; Index < Count; ++Index)
+        {
+            Out.append(Text);
+        }
+        return Out;
+    }
 } // namespace
 
-// What a hostile page or process on the user's machine can do to the real orv-host: malformed and smuggled
-// requests, then hundreds of connections that say nothing or send their request a byte at a time. The user's
-// AI client must still be answered at once, and the host must be back where it was afterwards.
-TEST(FOrvServeHostileClientsEndToEndTest, FloodsAndHostileRequestsLeaveTheRealClientServedAndTheLevelIntact)
+TEST(FOrvServeHostileClientsEndToEndTest, JsonAttacksAndFloodsLeaveTheRealClientServedAndTheLevelIntact)
 {
     FOrvServedHost Host;
     std::string Error;
-    ASSERT_TRUE(Host.Start(ORV_HOST_EXECUTABLE, {}, Error)) << Error;
-    const std::string Level = Host.Console("list");
-    const std::string ToolsList = R"({"jsonrpc":"2.0","id":7,"method":"tools/list"})";
-    ASSERT_EQ(Host.Client().Post("/mcp", ToolsList).Status, 200);
+    ASSERT_TRUE(Host.Start(ORV_HOST_EXECUTABLE, {"--no-console"}, Error)) << Error;
+    const std::string LevelBefore = Host.CallTool("ue_list_scene").Text;
+    ASSERT_NE(LevelBefore.find("StaticMeshActor"), std::string::npos) << LevelBefore;
+
+    // Attacks on the JSON layer itself are the handler's unit tests' business; here the real host takes a
+    // body of megabytes and tool arguments aimed at a level that is really there.
+    const std::string Attacks[] = {
+        R"({"jsonrpc":"2.0","id":1,"method":")" + std::string(4 << 20, 'm') + "\"}",
+        OrvToolCallRequest("ue_spawn_product", R"({"asset_path":")" + Repeat("\\udc00", 1000) +
+                                                   R"(","location":)" + Repeat("[", 300) + Repeat("]", 300) +
+                                                   "}"),
+        OrvToolCallRequest("ue_spawn_product",
+                           R"({"asset_path":"\udc00/Game/ORVESSA/SM_\udfff","location":[1e308,-0,0]})"),
+        OrvToolCallRequest("ue_move_actor", R"({"ID":"StaticMeshActor_\udc00","location":"x"})"),
+        OrvToolCallRequest("ue_delete_actor", R"({"id":")" + Repeat("\xC3", 5000) + R"("})"),
+        OrvToolCallRequest("ue_capture_view", R"({"quality":1e308,"Quality":-1e308})"),
+    };
+    for (const std::string& Body : Attacks)
+    {
+        const FOrvTestHttpReply Reply = Host.Client().Post("/mcp", Body);
+        EXPECT_EQ(Reply.Status, 200) << Body.substr(0, 80);
+        // Plus a tool's own output: the demo room's capture is about 70 KiB of Base64.
+        EXPECT_LE(Reply.Body.size(), 6 * Body.size() + 256 * 1024) << Body.substr(0, 80);
+        EXPECT_TRUE(FOrvUtf8::IsValid(Reply.Body)) << Body.substr(0, 80);
+        EXPECT_NE(Reply.Body.find("\"jsonrpc\": \"2.0\""), std::string::npos) << Reply.Body.substr(0, 200);
+    }
+
     const pid_t Pid = Host.Process().GetPid();
     const std::size_t DescriptorsBefore = OpenDescriptors(Pid);
     const std::size_t ResidentBefore = ResidentKiB(Pid);
 
     asio::io_context Io;
-    const std::string Mcp = "POST /mcp HTTP/1.1\r\nHost: x\r\n";
-    for (const std::string& Hostile :
-         {Mcp + "Transfer-Encoding: chunked\r\n\r\n1\r\n{\r\n0\r\nX: " + std::string(64 * 1024, 't') +
-              "\r\n\r\n",
-          Mcp + "Transfer-Encoding: chunked, gzip\r\n\r\n2\r\n{}\r\n0\r\n\r\n",
-          Mcp + "Content-Length: 2\r\nContent-Length: 3\r\n\r\n{}",
-          Mcp + "X: a\r\n b\r\nContent-Length: 2\r\n\r\n{}", std::string("PRI * HTTP/2.0\r\n\r\nSM\r\n\r\n")})
-    {
-        const int Status = FOrvTestHttpClient(Io, Host.GetPort()).SendRaw(Hostile, 5.0).Status;
-        EXPECT_TRUE(Status == 400 || Status == 501) << Status << " for " << Hostile.substr(0, 80);
-    }
-
     const tcp::endpoint Endpoint(asio::ip::address_v4::loopback(), Host.GetPort());
     std::vector<tcp::socket> Idle;
     for (int Index = 0; Index < 300; ++Index)
     {
         Idle.emplace_back(Io).connect(Endpoint);
     }
-    const std::string Header = Mcp + "Content-Length: 2\r\n\r\n";
+    const std::string Header = "POST /mcp HTTP/1.1\r\nHost: x\r\nContent-Length: 2\r\n\r\n";
     std::vector<tcp::socket> Slow;
     for (int Index = 0; Index < 30; ++Index)
     {
@@ -87,7 +110,8 @@ TEST(FOrvServeHostileClientsEndToEndTest, FloodsAndHostileRequestsLeaveTheRealCl
     }
 
     const auto Start = std::chrono::steady_clock::now();
-    const FOrvTestHttpReply Served = FOrvTestHttpClient(Io, Host.GetPort()).Post("/mcp", ToolsList);
+    const FOrvTestHttpReply Served = FOrvTestHttpClient(Io, Host.GetPort())
+                                         .Post("/mcp", R"({"jsonrpc":"2.0","id":7,"method":"tools/list"})");
     const double Seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - Start).count();
     EXPECT_EQ(Served.Status, 200) << Served.Body;
     EXPECT_NE(Served.Body.find("ue_placement_guide"), std::string::npos);
@@ -104,5 +128,6 @@ TEST(FOrvServeHostileClientsEndToEndTest, FloodsAndHostileRequestsLeaveTheRealCl
     EXPECT_LE(OpenDescriptors(Pid), DescriptorsBefore) << "every flood connection is closed";
     EXPECT_LT(ResidentKiB(Pid), ResidentBefore + 16 * 1024)
         << "resident before: " << ResidentBefore << " KiB";
-    EXPECT_EQ(Host.Console("list"), Level);
+    Host.Client().Disconnect(); // its idle connection gave its slot to the flood
+    EXPECT_EQ(Host.CallTool("ue_list_scene").Text, LevelBefore);
 }

@@ -1,3 +1,4 @@
+#include "Core/Json/OrvJson.h"
 #include "Tests/Support/OrvServedHost.h"
 
 #include <gtest/gtest.h>
@@ -84,8 +85,8 @@ TEST(FOrvServeLifecycleEndToEndTest, QuitAsksOnceWhenTheLevelHasUnsavedChanges)
     FOrvServedHost Host;
     std::string Error;
     ASSERT_TRUE(Host.Start(ORV_HOST_EXECUTABLE, {}, Error)) << Error;
-    const FOrvToolCallReply Spawned = Host.CallTool("ue_spawn_product", R"({"asset_path":"SM_Chair"})");
-    ASSERT_TRUE(Spawned.Json && Spawned.ErrorCode().empty()) << Spawned.Http.Body;
+    const FOrvToolReply Spawned = Host.CallTool("ue_spawn_product", R"({"asset_path":"SM_Chair"})");
+    ASSERT_FALSE(FOrvJson::GetStringField(Spawned.Json(), "id").empty()) << Spawned.Envelope;
 
     EXPECT_EQ(Host.Console("quit"),
               "The level has unsaved changes. Type quit again to leave without saving, or save first.");

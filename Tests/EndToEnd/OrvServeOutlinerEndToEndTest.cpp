@@ -1,3 +1,4 @@
+#include "Core/Json/OrvJson.h"
 #include "Tests/Support/OrvServedHost.h"
 
 #include <gtest/gtest.h>
@@ -24,7 +25,7 @@ namespace
     }
 } // namespace
 
-TEST(FOrvServeOutlinerEndToEndTest, TheTreeFollowsWhatAiToolsSpawnAndDelete)
+TEST(FOrvServeOutlinerEndToEndTest, TheTreeFollowsWhatAiToolsSpawnAndDeleteAndTheConsoleUndoes)
 {
     FOrvServedHost Host;
     std::string Error;
@@ -32,13 +33,18 @@ TEST(FOrvServeOutlinerEndToEndTest, TheTreeFollowsWhatAiToolsSpawnAndDelete)
     std::string Tree;
     ASSERT_TRUE(TreeEventuallyShows(Host, "    Forma Nova - Sedia Arco x4", Tree)) << Tree;
 
-    const FOrvToolCallReply Spawned = Host.CallTool(
+    const FOrvToolReply Spawned = Host.CallTool(
         "ue_spawn_product", R"({"asset_path":"/Game/ORVESSA/FormaNova/Arco/Meshes/SM_Chair.SM_Chair"})");
-    ASSERT_TRUE(Spawned.Json && Spawned.ErrorCode().empty()) << Spawned.Http.Body;
+    const std::string Id = FOrvJson::GetStringField(Spawned.Json(), "id");
+    ASSERT_FALSE(Id.empty()) << Spawned.Envelope;
     EXPECT_TRUE(TreeEventuallyShows(Host, "  Chairs x5", Tree)) << Tree;
     EXPECT_EQ(Host.Console("select Chairs").rfind("Selected 5 actors: ", 0), 0u);
 
-    const std::string Id = (*Spawned.Json)["id"].GetString();
-    ASSERT_TRUE(Host.CallTool("ue_delete_actor", R"({"id":")" + Id + R"("})").Json);
+    const FOrvToolReply Deleted = Host.CallTool("ue_delete_actor", R"({"id":")" + Id + R"("})");
+    ASSERT_EQ(OrvCondensedJson(Deleted.Text), R"({"id":")" + Id + R"(","deleted":true})");
     EXPECT_TRUE(TreeEventuallyShows(Host, "  Chairs x4", Tree)) << Tree;
+
+    // Each tool's change is one step of the editor's undo buffer, which the console shares.
+    EXPECT_EQ(Host.Console("undo"), "Undone: Orv MCP: Delete Actor");
+    EXPECT_TRUE(TreeEventuallyShows(Host, "  Chairs x5", Tree)) << Tree;
 }

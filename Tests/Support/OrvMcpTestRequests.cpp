@@ -1,8 +1,7 @@
 #include "Tests/Support/OrvMcpTestRequests.h"
 
+#include "Core/Json/OrvJson.h"
 #include "Core/Json/OrvJsonWriter.h"
-
-#include "Core/Json/OrvRapidJson.h"
 
 namespace OrvWebBridge
 {
@@ -27,5 +26,48 @@ namespace OrvWebBridge
         FOrvJsonWriter Writer(Out, EOrvJsonStyle::Condensed);
         Writer.Value(Document);
         return Out;
+    }
+
+    std::string OrvToolCallRequest(std::string_view Name, std::string_view ArgumentsJson)
+    {
+        std::string Body = R"({"jsonrpc":"2.0","id":7,"method":"tools/call","params":{"name":")";
+        OrvAppendJsonEscaped(Body, Name);
+        Body += '"';
+        if (!ArgumentsJson.empty())
+        {
+            Body += R"(,"arguments":)";
+            Body += ArgumentsJson;
+        }
+        Body += "}}";
+        return Body;
+    }
+
+    rapidjson::Document FOrvToolReply::Json() const
+    {
+        rapidjson::Document Document;
+        Document.Parse(Text.data(), Text.size());
+        return Document;
+    }
+
+    FOrvToolReply FOrvToolReply::Parse(std::string Envelope)
+    {
+        FOrvToolReply Reply;
+        Reply.Envelope = std::move(Envelope);
+        rapidjson::Document Document;
+        if (!FOrvJson::ParseObject(Reply.Envelope, Document))
+        {
+            return Reply;
+        }
+        const rapidjson::Value* Result = FOrvJson::TryGetObjectField(Document, "result");
+        const rapidjson::Value* Content = Result ? FOrvJson::TryGetArrayField(*Result, "content") : nullptr;
+        if (!Content || Content->Size() != 1 || !(*Content)[0].IsObject())
+        {
+            return Reply;
+        }
+        const rapidjson::Value& Block = (*Content)[0];
+        Reply.Type = FOrvJson::GetStringField(Block, "type");
+        Reply.Text = FOrvJson::GetStringField(Block, Reply.Type == "image" ? "data" : "text");
+        Reply.MimeType = FOrvJson::GetStringField(Block, "mimeType");
+        return Reply;
     }
 } // namespace OrvWebBridge

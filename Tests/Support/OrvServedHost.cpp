@@ -22,15 +22,6 @@ namespace OrvWebBridge
         }
     } // namespace
 
-    std::string FOrvToolCallReply::ErrorCode() const
-    {
-        if (Json && Json->IsObject() && Json->HasMember("error") && (*Json)["error"].IsString())
-        {
-            return (*Json)["error"].GetString();
-        }
-        return {};
-    }
-
     FOrvServedHost::~FOrvServedHost()
     {
         HttpClient.reset();
@@ -59,49 +50,9 @@ namespace OrvWebBridge
         return true;
     }
 
-    std::shared_ptr<rapidjson::Document> FOrvServedHost::Rpc(std::string_view Path, std::string_view Body,
-                                                             FOrvTestHttpReply* OutReply)
+    FOrvToolReply FOrvServedHost::CallTool(std::string_view Name, std::string_view ArgumentsJson)
     {
-        FOrvTestHttpReply Reply = HttpClient->Post(Path, Body);
-        auto Envelope = std::make_shared<rapidjson::Document>();
-        Envelope->Parse(Reply.Body.data(), Reply.Body.size());
-        if (OutReply)
-        {
-            *OutReply = std::move(Reply);
-        }
-        return Envelope->HasParseError() ? nullptr : Envelope;
-    }
-
-    FOrvToolCallReply FOrvServedHost::CallTool(std::string_view Name, std::string_view ArgumentsJson)
-    {
-        const std::string Body = R"({"jsonrpc":"2.0","id":1,"method":"tools/call","params":{"name":")" +
-                                 std::string(Name) + R"(","arguments":)" + std::string(ArgumentsJson) + "}}";
-        FOrvToolCallReply Reply;
-        const auto Envelope = Rpc("/mcp", Body, &Reply.Http);
-        if (!Envelope || !Envelope->IsObject() || !Envelope->HasMember("result"))
-        {
-            return Reply;
-        }
-        const rapidjson::Value& Content = (*Envelope)["result"]["content"];
-        if (!Content.IsArray() || Content.Empty())
-        {
-            return Reply;
-        }
-        const rapidjson::Value& Block = Content[0];
-        Reply.Type = Block["type"].GetString();
-        if (Reply.Type == "image")
-        {
-            Reply.Text = Block["data"].GetString();
-            Reply.MimeType = Block["mimeType"].GetString();
-            return Reply;
-        }
-        Reply.Text = Block["text"].GetString();
-        auto Parsed = std::make_shared<rapidjson::Document>();
-        if (!Parsed->Parse(Reply.Text.c_str()).HasParseError())
-        {
-            Reply.Json = Parsed;
-        }
-        return Reply;
+        return FOrvToolReply::Parse(HttpClient->Post("/mcp", OrvToolCallRequest(Name, ArgumentsJson)).Body);
     }
 
     std::string FOrvServedHost::Console(std::string_view Command)

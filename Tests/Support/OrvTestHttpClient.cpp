@@ -24,6 +24,20 @@ namespace OrvWebBridge
         return {};
     }
 
+    namespace
+    {
+        /** The status and headers of an answer read. */
+        template <class FMessage> void ReadHead(const FMessage& Message, FOrvTestHttpReply& Reply)
+        {
+            Reply.bReceived = true;
+            Reply.Status = static_cast<int>(Message.result_int());
+            for (const auto& Field : Message)
+            {
+                Reply.Headers.emplace_back(std::string(Field.name_string()), std::string(Field.value()));
+            }
+        }
+    } // namespace
+
     template <class FStart> FErrorCode FOrvTestHttpClient::Run(FStart Start, double TimeoutSeconds)
     {
         bool bDone = false;
@@ -133,12 +147,7 @@ namespace OrvWebBridge
             return Reply;
         }
         const auto& Message = Parser.get();
-        Reply.bReceived = true;
-        Reply.Status = static_cast<int>(Message.result_int());
-        for (const auto& Field : Message)
-        {
-            Reply.Headers.emplace_back(std::string(Field.name_string()), std::string(Field.value()));
-        }
+        ReadHead(Message, Reply);
         Reply.Body = Message.body();
         if (!Message.keep_alive())
         {
@@ -150,9 +159,7 @@ namespace OrvWebBridge
     FOrvTestHttpReply FOrvTestHttpClient::OpenStream(std::string_view Target, double TimeoutSeconds)
     {
         FOrvTestHttpReply Reply;
-        const std::string Request = "GET " + std::string(Target) + " HTTP/1.1\r\nHost: 127.0.0.1\r\n\r\n";
-        if (!Connect(TimeoutSeconds) ||
-            Run([&](auto Done) { asio::async_write(Socket, asio::buffer(Request), Done); }, TimeoutSeconds))
+        if (!WriteRaw("GET " + std::string(Target) + " HTTP/1.1\r\nHost: 127.0.0.1\r\n\r\n", TimeoutSeconds))
         {
             Reply.Error = "could not send the request";
             return Reply;
@@ -164,12 +171,7 @@ namespace OrvWebBridge
             Reply.Error = "read: " + Error.message();
             return Reply;
         }
-        Reply.bReceived = true;
-        Reply.Status = static_cast<int>(Parser.get().result_int());
-        for (const auto& Field : Parser.get())
-        {
-            Reply.Headers.emplace_back(std::string(Field.name_string()), std::string(Field.value()));
-        }
+        ReadHead(Parser.get(), Reply);
         // Whatever came with the header is the start of the body.
         StreamText = beast::buffers_to_string(Buffer.data());
         StreamCursor = 0;

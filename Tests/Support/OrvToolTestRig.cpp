@@ -1,7 +1,6 @@
 #include "Tests/Support/OrvToolTestRig.h"
 
 #include "Core/Json/OrvJson.h"
-#include "Core/Json/OrvJsonWriter.h"
 
 #include <gtest/gtest.h>
 
@@ -10,30 +9,6 @@
 
 namespace OrvWebBridge
 {
-    namespace
-    {
-        std::string OrvRigRequest(std::string_view Name, std::string_view ArgumentsJson)
-        {
-            std::string Body = R"({"jsonrpc":"2.0","id":7,"method":"tools/call","params":{"name":")";
-            OrvAppendJsonEscaped(Body, Name);
-            Body += '"';
-            if (!ArgumentsJson.empty())
-            {
-                Body += R"(,"arguments":)";
-                Body += ArgumentsJson;
-            }
-            Body += "}}";
-            return Body;
-        }
-    } // namespace
-
-    rapidjson::Document FOrvToolReply::Json() const
-    {
-        rapidjson::Document Document;
-        Document.Parse(Text.data(), Text.size());
-        return Document;
-    }
-
     FOrvToolTestRig::FOrvToolTestRig(EOrvRigViewport ViewportKind)
     {
         IOrvViewport& Viewport = ViewportKind == EOrvRigViewport::Fake
@@ -48,7 +23,7 @@ namespace OrvWebBridge
     void FOrvToolTestRig::CallLater(std::string_view Name, std::string_view ArgumentsJson,
                                     std::vector<std::string>& OutResponses)
     {
-        Handler->HandleRequest(OrvRigRequest(Name, ArgumentsJson), [&OutResponses](std::string Text)
+        Handler->HandleRequest(OrvToolCallRequest(Name, ArgumentsJson), [&OutResponses](std::string Text)
                                { OutResponses.push_back(std::move(Text)); });
     }
 
@@ -61,28 +36,6 @@ namespace OrvWebBridge
         EXPECT_EQ(Responses.size(), 1u) << Name;
         FOrvToolReply Reply = Responses.empty() ? FOrvToolReply{} : FOrvToolReply::Parse(Responses.front());
         Reply.bAnsweredBeforePump = bAnsweredBeforePump;
-        return Reply;
-    }
-
-    FOrvToolReply FOrvToolReply::Parse(std::string Envelope)
-    {
-        FOrvToolReply Reply;
-        Reply.Envelope = std::move(Envelope);
-        rapidjson::Document Document;
-        if (!FOrvJson::ParseObject(Reply.Envelope, Document))
-        {
-            return Reply;
-        }
-        const rapidjson::Value* Result = FOrvJson::TryGetObjectField(Document, "result");
-        const rapidjson::Value* Content = Result ? FOrvJson::TryGetArrayField(*Result, "content") : nullptr;
-        if (!Content || Content->Size() != 1 || !(*Content)[0].IsObject())
-        {
-            return Reply;
-        }
-        const rapidjson::Value& Block = (*Content)[0];
-        Reply.Type = FOrvJson::GetStringField(Block, "type");
-        Reply.Text = FOrvJson::GetStringField(Block, Reply.Type == "image" ? "data" : "text");
-        Reply.MimeType = FOrvJson::GetStringField(Block, "mimeType");
         return Reply;
     }
 

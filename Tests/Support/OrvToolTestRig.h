@@ -4,6 +4,7 @@
 #include "Host/Editor/OrvMemoryEditor.h"
 #include "Tests/Support/OrvFakeCapturePorts.h"
 #include "Tests/Support/OrvManualGameThread.h"
+#include "Tests/Support/OrvMcpTestRequests.h"
 #include "Tests/Support/OrvRecordingLog.h"
 
 #include "Core/Json/OrvRapidJson.h"
@@ -14,21 +15,6 @@
 
 namespace OrvWebBridge
 {
-    /** @brief The one content block a tools/call answered with, as a client reads it. */
-    struct FOrvToolReply
-    {
-        bool bAnsweredBeforePump = false; ///< a response arrived before the game thread ran
-        std::string Type;                 ///< "text" or "image"; empty when the answer was no tool result
-        std::string Text;                 ///< the text, or the image's Base64 data
-        std::string MimeType;             ///< images only
-        std::string Envelope;             ///< the whole response text
-
-        rapidjson::Document Json() const; ///< the text parsed as JSON
-
-        /** The block of one tools/call response envelope; Type stays empty when it holds no single block. */
-        static FOrvToolReply Parse(std::string Envelope);
-    };
-
     /** @brief Which viewport the tools see: the in-memory editor's, or a fake a test sets up. */
     enum class EOrvRigViewport
     {

@@ -26,13 +26,17 @@ namespace
         return Pixels;
     }
 
-    /** Width and height read back from a JPEG header; {0, 0} when it does not decode. */
+    /** Width and height of a JPEG that decodes whole, not just its header; {0, 0} when it does not. */
     std::pair<int, int> DecodedSize(std::span<const std::uint8_t> Jpeg)
     {
         tjhandle Decoder = tjInitDecompress();
+        const auto Size = static_cast<unsigned long>(Jpeg.size());
         int Width = 0, Height = 0, Subsampling = 0, Colorspace = 0;
-        const bool bOk = tjDecompressHeader3(Decoder, Jpeg.data(), static_cast<unsigned long>(Jpeg.size()),
-                                             &Width, &Height, &Subsampling, &Colorspace) == 0;
+        bool bOk =
+            tjDecompressHeader3(Decoder, Jpeg.data(), Size, &Width, &Height, &Subsampling, &Colorspace) == 0;
+        std::vector<std::uint8_t> Pixels(bOk ? static_cast<std::size_t>(Width) * Height * 4 : 0);
+        bOk = bOk &&
+              tjDecompress2(Decoder, Jpeg.data(), Size, Pixels.data(), Width, 0, Height, TJPF_BGRA, 0) == 0;
         tjDestroy(Decoder);
         return bOk ? std::pair{Width, Height} : std::pair{0, 0};
     }

@@ -135,14 +135,12 @@ TEST(FOrvHttpEventStreamTest, ARefusedStreamSendsTheHandlersAnswerAndNeverOpens)
 {
     FOrvBeastServerRig Rig;
     std::vector<std::shared_ptr<IOrvHttpEventStream>> Streams;
-    bool bOnClosedRan = false;
     Rig.Router->BindEventStream(
         "/events",
         [&](const FOrvHttpRequest& Request,
             const std::shared_ptr<IOrvHttpEventStream>& Stream) -> std::unique_ptr<FOrvHttpResponse>
         {
             Streams.push_back(Stream);
-            Stream->SetOnClosed([&] { bOnClosedRan = true; });
             Stream->SendEvent("hello", Request.Query);
             return Request.Query == "token=good" ? nullptr : MakeTextResponse("Forbidden.\n", 403);
         });
@@ -154,8 +152,6 @@ TEST(FOrvHttpEventStreamTest, ARefusedStreamSendsTheHandlersAnswerAndNeverOpens)
     ASSERT_EQ(Streams.size(), 1u);
     EXPECT_FALSE(Streams[0]->IsOpen());
     EXPECT_FALSE(Streams[0]->SendEvent("after", "refusal"));
-    Rig.Loop.RunUntil([] { return false; }, 0.05);
-    EXPECT_FALSE(bOnClosedRan) << "a stream that never opened never ends";
 
     // The same connection carries on, and a stream it then opens starts clean.
     EXPECT_EQ(Client.OpenStream("/events?token=good").Status, 200);
