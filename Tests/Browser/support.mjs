@@ -11,14 +11,14 @@ export const HostPath = process.env.ORV_HOST || path.resolve(import.meta.dirname
 const ChromiumPath = process.env.ORV_CHROMIUM || "/usr/bin/chromium";
 
 /**
- * Starts "orv-host serve" (MCP on McpPort, the panel on a free port); resolves once its URL lines are out.
+ * Starts "orv-host serve" (MCP and the panel on free ports); resolves once its URL lines are out.
  * With bConsole, Host.Command(Line, Expect) types a console command and resolves with its answer's line
  * that matches Expect.
  */
-export async function StartHost({ McpPort = 0, bConsole = false } = {}) {
-    const Args = ["serve", "--port", String(McpPort), "--panel-port", "0", ...(bConsole ? [] : ["--no-console"])];
+export async function StartHost({ bConsole = false } = {}) {
+    const Args = ["serve", "--port", "0", "--panel-port", "0", ...(bConsole ? [] : ["--no-console"])];
     const Child = spawn(HostPath, Args, { stdio: [bConsole ? "pipe" : "ignore", "pipe", "pipe"] });
-    const Host = { Child, Output: [], Errors: "", PanelUrl: "", McpUrl: "" };
+    const Host = { Child, Output: [], Errors: "", PanelUrl: "" };
     Child.stderr.on("data", (Chunk) => (Host.Errors += Chunk));
     const Lines = createInterface({ input: Child.stdout });
     Lines.on("line", (Line) => Host.Output.push(Line));

@@ -1,5 +1,6 @@
-// Drives "orv-host serve" with the official MCP TypeScript SDK client over Streamable HTTP on /mcp:
-// initialize, list the tools, call each of the nine. Exits non-zero on the first failure.
+// The official MCP TypeScript SDK client against "orv-host serve" over Streamable HTTP on /mcp: the
+// handshake, the tool list, and a text and an image result, which the SDK checks against its own
+// schemas. Each tool's answers are the end-to-end suite's business. Exits non-zero on the first failure.
 // Usage: node sdk-client.mjs PATH_TO_ORV_HOST
 import { spawn } from "node:child_process";
 import { createInterface } from "node:readline";
@@ -80,31 +81,16 @@ async function Main() {
 
     const Scene = await Call(ClientInstance, "ue_list_scene");
     Expect(Scene.json.actors.length > 0, "the demo room has products");
-    const Camera = await Call(ClientInstance, "ue_get_camera");
-    Expect(typeof Camera.json.fov === "number", "camera has a field of view");
-    const Assets = await Call(ClientInstance, "ue_list_available_assets");
-    Expect(Assets.json.assets.length > 0, "assets are listed");
-    const AssetPath = Assets.json.assets[0];
-    const Bounds = await Call(ClientInstance, "ue_get_asset_bounds", { asset_path: AssetPath });
-    Expect(Bounds.json.size.length === 3, "bounds have a size");
-    await Call(ClientInstance, "ue_placement_guide");
     const Capture = await Call(ClientInstance, "ue_capture_view", { quality: 50 });
     Expect(Capture.type === "image" && Capture.mimeType === "image/jpeg", "capture is a JPEG image");
     Expect(Buffer.from(Capture.data, "base64").subarray(0, 2).equals(Buffer.from([0xff, 0xd8])), "JPEG data");
-
-    const Spawned = await Call(ClientInstance, "ue_spawn_product", { asset_path: AssetPath, location: [0, 0, 0] });
-    const Id = Spawned.json.id;
-    const Moved = await Call(ClientInstance, "ue_move_actor", { id: Id, location: [120, -40, 0], rotation: [0, 90, 0] });
-    Expect(Moved.json.location[0] === 120, "the actor moved");
-    const Deleted = await Call(ClientInstance, "ue_delete_actor", { id: Id });
-    Expect(Deleted.json.deleted === true, "the actor was deleted");
 
     await ClientInstance.close();
     Host.kill("SIGTERM");
     const { Code } = await HostExited;
     Expect(Code === 0, `orv-host exits 0 on SIGTERM, got ${Code}`);
     clearTimeout(Watchdog);
-    console.log("MCP SDK client drove every tool");
+    console.log("MCP SDK client talked to the host");
 }
 
 Main().catch((Error) => Fail(Error.stack || String(Error)));

@@ -119,15 +119,3 @@ TEST(FOrvScriptBridgeTest, EmptyUrlsOpenNothing)
     EXPECT_TRUE(Rig.Windows.Launched.empty());
     EXPECT_FALSE(Rig.Windows.OnUrlChanged);
 }
-
-TEST(FOrvScriptBridgeTest, TestEventBusWarnsAndSendsTheTestEventEveryTime)
-{
-    FOrvBridgeTestRig Rig;
-    Rig.Bridge.TestOrvEventBus();
-    Rig.Bridge.TestOrvEventBus();
-    EXPECT_EQ(Rig.Log.Count("Orv Bridge - TestOrvEventBus CALLED"), 2);
-    ASSERT_EQ(Rig.Panel.Scripts.size(), 2u);
-    EXPECT_NE(Rig.Panel.Scripts[0].find(R"(window.__orv_emit('orvbus.test', {"status":"okay"});)"),
-              std::string::npos)
-        << Rig.Panel.Scripts[0];
-}

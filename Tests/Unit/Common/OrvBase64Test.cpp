@@ -39,7 +39,7 @@ namespace
     }
 } // namespace
 
-TEST(FOrvBase64Test, MatchesTheStandardVectorsWithPaddingAndKeepsWhatWasThere)
+TEST(FOrvBase64Test, EncodesTheStandardVectorsAndEveryLengthAndByteValueLikeTheReference)
 {
     const char* Expected[] = {"", "Zg==", "Zm8=", "Zm9v", "Zm9vYg==", "Zm9vYmE=", "Zm9vYmFy"};
     for (std::size_t Length = 0; Length <= 6; ++Length)
@@ -47,10 +47,7 @@ TEST(FOrvBase64Test, MatchesTheStandardVectorsWithPaddingAndKeepsWhatWasThere)
         EXPECT_EQ(Encode(std::string_view("foobar", Length)), Expected[Length]);
     }
     EXPECT_EQ(Encode("\xFB\xFF\xBF"), "+/+/");
-}
 
-TEST(FOrvBase64Test, EveryLengthAndByteValueEncodesLikeTheReference)
-{
     std::mt19937 Random(7);
     for (std::size_t Length = 0; Length < 300; ++Length)
     {

@@ -141,7 +141,7 @@ TEST(FOrvMcpFormatterTest, TruncateCountsUtf16UnitsAndNeverSplitsACharacter)
     EXPECT_EQ(FOrvMcpFormatter::Truncate(MorePairs, 280), Repeat(Emoji, 121) + Ellipsis);
 }
 
-TEST(FOrvMcpFormatterTest, ListShowsFullCardsThenACompactTail)
+TEST(FOrvMcpFormatterTest, ListShowsFullCardsThenACompactTailCountingNullEntries)
 {
     const char* Five = R"([{"name":"A","brand":[{"name":"Nord"}],"mongo_id":"a1"},{"name":"B"},{"name":"C"},
                           {"name":"D","brand":[{"name":"Ek"}],"mongo_id":"d4"},{"asset_name":"SM_E"}])";
@@ -154,11 +154,9 @@ TEST(FOrvMcpFormatterTest, ListShowsFullCardsThenACompactTail)
               "### A\n\n---\n\n### B\n\n---\n\n### C\n\n---\n\n_1 more result (compact):_\n- D");
     EXPECT_EQ(List(R"([{"name":"A"},{"name":"B"}])", 5), "### A\n\n---\n\n### B");
     EXPECT_EQ(List("[]", 3), "_No products found._");
-}
 
-TEST(FOrvMcpFormatterTest, NullEntriesCountInTheTailAndNoFullCardsStartsWithTheRule)
-{
-    // Without a title the compact label is the brand part alone.
+    // Null entries count in the tail, a compact label without a title is the brand part alone, and with
+    // no full cards the list starts with the rule.
     EXPECT_EQ(List(R"([null,{"name":"A"},{"name":"B"},null,{"brand":[{"name":"Ek"}]}])", 2),
               "### A\n\n---\n\n_3 more results (compact):_\n- B\n-  \xE2\x80\x94 Ek");
     const rapidjson::Value* OnlyNull[] = {nullptr};

@@ -66,13 +66,19 @@ TEST_F(FOrvMcpHandlerTest, RequestIdComesBackUnchangedWhateverItsTypeAndNullWhen
               R"({"jsonrpc":"2.0","id":null,"result":{}})");
 }
 
-TEST_F(FOrvMcpHandlerTest, MethodNamesIgnoreLetterCaseAndJsonRpcVersionIsNotChecked)
+// Members are found as the engine finds them: ignoring letter case, and a repeated one keeps its last value.
+TEST_F(FOrvMcpHandlerTest, MemberAndMethodNamesIgnoreLetterCaseTheLastRepeatWinsAndTheVersionIsNotChecked)
 {
     EXPECT_EQ(Call(R"({"id":1,"method":"PING"})"), R"({"jsonrpc":"2.0","id":1,"result":{}})");
     EXPECT_EQ(Call(R"({"jsonrpc":"1.0","id":2,"method":"Notifications/Initialized"})"),
               R"({"jsonrpc":"2.0","id":2,"result":{}})");
     EXPECT_EQ(Call(R"({"id":3,"method":"TOOLS/LIST"})"), Call(R"({"id":3,"method":"tools/list"})"));
     EXPECT_EQ(Call(R"({"id":4,"method":"Initialize"})"), Call(R"({"id":4,"method":"initialize"})"));
+    EXPECT_EQ(Call(R"({"ID":1,"id":2,"METHOD":"nope","Method":"ping"})"),
+              R"({"jsonrpc":"2.0","id":2,"result":{}})");
+    EXPECT_NE(Call(R"({"id":3,"method":"tools/call","PARAMS":{"Name":"first","name":"ue_nope"}})")
+                  .find("Unknown tool: ue_nope."),
+              std::string::npos);
 }
 
 TEST_F(FOrvMcpHandlerTest, InitializeDeclaresOnlyToolsAndNamesTheServer)

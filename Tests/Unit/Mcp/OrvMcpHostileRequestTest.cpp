@@ -124,12 +124,3 @@ TEST_F(FOrvMcpHostileRequestTest, NumbersTheEngineCouldNotHoldAreRefusedOthersEc
     EXPECT_EQ(OrvCondensedJson(Answer(R"({"id":-0,"method":"ping"})")),
               R"({"jsonrpc":"2.0","id":0,"result":{}})");
 }
-
-TEST_F(FOrvMcpHostileRequestTest, MembersAreFoundAsTheEngineFindsThemIgnoringCaseAndKeepingTheLast)
-{
-    EXPECT_EQ(OrvCondensedJson(Answer(R"({"ID":1,"id":2,"METHOD":"nope","Method":"ping"})")),
-              R"({"jsonrpc":"2.0","id":2,"result":{}})");
-    const std::string Unknown = OrvCondensedJson(
-        Answer(R"({"id":3,"method":"tools/call","PARAMS":{"Name":"first","name":"ue_nope"}})"));
-    EXPECT_NE(Unknown.find("Unknown tool: ue_nope."), std::string::npos) << Unknown;
-}

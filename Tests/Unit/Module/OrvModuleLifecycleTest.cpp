@@ -130,27 +130,6 @@ TEST(FOrvModuleLifecycleTest, StartsInTheFixedOrderWithTheServerLastAndShutsDown
     EXPECT_TRUE(Host.Take().empty()) << "a second shut-down does nothing";
 }
 
-TEST(FOrvModuleLifecycleTest, BusyPortWarnsOnceAndEverythingElseStartsAndStops)
-{
-    FOrvJournalModuleHost Host;
-    Host.bPortBusy = true;
-    FOrvModuleLifecycle Lifecycle(Host, Host);
-
-    Lifecycle.Startup();
-    Lifecycle.Startup();
-    const std::vector<std::string> Started = Host.Take();
-    EXPECT_EQ(CountContaining(Started, "perform "), 10);
-    EXPECT_EQ(Started.back(), "LogTemp: Warning: Orv MCP: failed to start server on port 30011 (port in use? "
-                              "firewall?). Other plugin functionality is unaffected.");
-    EXPECT_EQ(CountContaining(Started, "Orv MCP: "), 1);
-    EXPECT_FALSE(Lifecycle.IsMcpServerRunning());
-
-    Lifecycle.Shutdown();
-    const std::vector<std::string> Stopped = Host.Take();
-    EXPECT_EQ(CountContaining(Stopped, "stop MCP server"), 0) << "there is no server to stop";
-    EXPECT_EQ(CountContaining(Stopped, "undo "), 10);
-}
-
 TEST(FOrvModuleLifecycleTest, BeforeTheEditorEngineExistsTheViewportListenerIsBoundAfterEngineInit)
 {
     FOrvJournalModuleHost Host;
@@ -197,21 +176,29 @@ TEST(FOrvModuleLifecycleTest, ShutdownBeforeEngineInitDropsTheWaitAndALateCallba
     EXPECT_TRUE(Host.Take().empty());
 }
 
-TEST(FOrvModuleLifecycleTest, StepsTheHostCannotPerformAreNeitherLoggedNorUndone)
+TEST(FOrvModuleLifecycleTest, StepsThatCannotBePerformedAreNeitherLoggedNorUndoneAndABusyPortOnlyWarnsOnce)
 {
     FOrvJournalModuleHost Host;
+    Host.bPortBusy = true;
     Host.Unavailable = {EOrvModuleStep::InputPreProcessor, EOrvModuleStep::ViewportSelectionListener};
     FOrvModuleLifecycle Lifecycle(Host, Host);
 
     Lifecycle.Startup();
+    Lifecycle.Startup();
     const std::vector<std::string> Started = Host.Take();
+    EXPECT_EQ(CountContaining(Started, "perform "), 10);
     EXPECT_EQ(CountContaining(Started, "OrvSmartPanel: Alt+R"), 0);
     EXPECT_EQ(CountContaining(Started, "OrvSmartPanel: Viewport"), 0);
     EXPECT_FALSE(Lifecycle.IsStepDone(EOrvModuleStep::InputPreProcessor));
     EXPECT_TRUE(Lifecycle.IsStepDone(EOrvModuleStep::MenuStartupCallback));
+    EXPECT_EQ(Started.back(), "LogTemp: Warning: Orv MCP: failed to start server on port 30011 (port in use? "
+                              "firewall?). Other plugin functionality is unaffected.");
+    EXPECT_EQ(CountContaining(Started, "Orv MCP: "), 1);
+    EXPECT_FALSE(Lifecycle.IsMcpServerRunning());
 
     Lifecycle.Shutdown();
     const std::vector<std::string> Stopped = Host.Take();
+    EXPECT_EQ(CountContaining(Stopped, "stop MCP server"), 0) << "there is no server to stop";
     EXPECT_EQ(CountContaining(Stopped, "InputPreProcessor"), 0);
     EXPECT_EQ(CountContaining(Stopped, "ViewportSelectionListener"), 0);
     EXPECT_EQ(CountContaining(Stopped, "OrvSmartPanel: Alt+R input processor unregistered"), 0);

@@ -104,39 +104,6 @@ namespace
     }
 } // namespace
 
-TEST(FOrvUnrealLiteralsTest, ReadsLiteralsTheWayTheLocalisationGathererDoes)
-{
-    FOrvUnrealLiterals Literals;
-    Literals.ScanText("Sample.cpp", R"cpp(
-        // LOCTEXT("Commented", "out")
-        #define LOCTEXT_NAMESPACE "First"
-        auto A = LOCTEXT("Quote", "Say \"hi\"\nthen " "go");
-        /* UI_COMMAND(Hidden, "x", "y", EUserInterfaceActionType::Button, FInputChord()); */
-        UI_COMMAND(ViewDetails, "View", "Opens details", EUserInterfaceActionType::Button,
-                   FInputChord(EModifierKey::Alt, EKeys::R));
-        #undef LOCTEXT_NAMESPACE
-        auto B = NSLOCTEXT("Own", "Key", "Text");
-        auto C = LOCTEXT("Orphan", "no namespace here");
-        auto D = LOCTEXT("NotLiteral", SomeVariable);
-        const char Quote = '"'; auto Script = R"js(run("LOCTEXT(\"k\", \"t\")"))js";
-    )cpp");
-
-    ASSERT_EQ(Literals.Texts.size(), 4u);
-    EXPECT_EQ(Literals.Texts[0].Where, "Sample.cpp:4");
-    EXPECT_EQ(Literals.Texts[0].Namespace, "First");
-    EXPECT_EQ(Literals.Texts[0].Text, "Say \"hi\"\nthen go");
-    EXPECT_EQ(Literals.Texts[1].Key, "ViewDetails");
-    EXPECT_EQ(Literals.Texts[2].Key, "ViewDetails_ToolTip");
-    EXPECT_EQ(Literals.Texts[2].Text, "Opens details");
-    EXPECT_EQ(Literals.Texts[3].Namespace, "Own");
-    ASSERT_EQ(Literals.Commands.size(), 1u);
-    EXPECT_EQ(Literals.Commands[0].ActionType, "EUserInterfaceActionType::Button");
-    EXPECT_EQ(Literals.Commands[0].Chord, "FInputChord(EModifierKey::Alt,EKeys::R)");
-    ASSERT_EQ(Literals.Errors.size(), 2u);
-    EXPECT_EQ(Literals.Errors[0], "Sample.cpp:10: LOCTEXT outside a LOCTEXT_NAMESPACE");
-    EXPECT_EQ(Literals.Errors[1], "Sample.cpp:11: LOCTEXT takes two string literals");
-}
-
 TEST(FOrvUnrealLiteralsTest, UnrealSourcesRestateEveryCoreTextExactlyAndNoOther)
 {
     const FOrvUnrealLiterals& Literals = UnrealSources();

@@ -1,31 +1,13 @@
 #include "Core/Outliner/OrvOutlinerCSVExporter.h"
+#include "Tests/Unit/OrvGoldenFile.h"
 #include "Tests/Unit/Outliner/OrvOutlinerTestRig.h"
 
 #include <gtest/gtest.h>
-
-#include <cstdlib>
-#include <fstream>
-#include <sstream>
 
 using namespace OrvWebBridge;
 
 namespace
 {
-    // Golden files are compared byte for byte; ORV_UPDATE_GOLDEN=1 rewrites them (then review the diff).
-    void ExpectMatchesGolden(const std::string& Actual, const std::string& GoldenPath)
-    {
-        const char* Update = std::getenv("ORV_UPDATE_GOLDEN");
-        if (Update && std::string(Update) == "1")
-        {
-            std::ofstream(GoldenPath, std::ios::binary) << Actual;
-        }
-        std::ifstream Stream(GoldenPath, std::ios::binary);
-        ASSERT_TRUE(Stream) << GoldenPath << " is missing (run from the repository root)";
-        std::ostringstream Expected;
-        Expected << Stream.rdbuf();
-        EXPECT_EQ(Actual, Expected.str()) << "differs from " << GoldenPath;
-    }
-
     FOrvSceneProductPtr MakeProduct(const FOrvProductInfo& Info, std::vector<FOrvActorRef> Actors)
     {
         auto Product = std::make_shared<FOrvSceneProduct>();
@@ -65,7 +47,7 @@ TEST(FOrvOutlinerCSVExporterTest, ScheduleWithTrickyValuesMatchesTheGoldenFile)
     const std::string CSV = FOrvOutlinerCSVExporter::GenerateCSV(Products, "Villa \"Rosa\", Como", "02",
                                                                  Rig.Editor.World(), Rig.Environment);
 
-    ExpectMatchesGolden(CSV, "Tests/Golden/Outliner/ProductScheduleTricky.csv");
+    OrvExpectMatchesGolden(CSV, "Tests/Golden/Outliner/ProductScheduleTricky.csv");
 }
 
 TEST(FOrvOutlinerCSVExporterTest, EmptyMapStillGivesHeaderTotalAndFooterWithTheFallbackVersion)
@@ -76,7 +58,7 @@ TEST(FOrvOutlinerCSVExporterTest, EmptyMapStillGivesHeaderTotalAndFooterWithTheF
     const std::string CSV = FOrvOutlinerCSVExporter::GenerateCSV({}, "Untitled Project", "01",
                                                                  Rig.Editor.World(), Rig.Environment);
 
-    ExpectMatchesGolden(CSV, "Tests/Golden/Outliner/ProductScheduleEmpty.csv");
+    OrvExpectMatchesGolden(CSV, "Tests/Golden/Outliner/ProductScheduleEmpty.csv");
     EXPECT_EQ(CSV.find('\r'), std::string::npos);
 }
 

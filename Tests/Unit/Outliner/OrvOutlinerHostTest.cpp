@@ -1,5 +1,4 @@
 #include "Host/OrvHostCommands.h"
-#include "Host/Outliner/OrvHostFiles.h"
 #include "Host/Outliner/OrvOutlinerTextView.h"
 #include "Tests/Support/OrvTempDirectory.h"
 #include "Tests/Unit/Outliner/OrvOutlinerTestRig.h"
@@ -66,57 +65,33 @@ TEST(FOrvOutlinerHostTest, TreeSortsWithoutCaseGroupsNamesAcrossCaseAndPutsRootC
               "Please log in via the Orv Catalog panel\nto view scene products.\n");
 }
 
-TEST(FOrvOutlinerHostTest, HostFilesNeverReplaceAFileUnlessAllowedAndLeaveNoTemporaryFiles)
+TEST(FOrvOutlinerHostTest,
+     ScheduleCommandWritesThePanelsDefaultFileOnceReplacesItOnlyWhenForcedAndLeavesNoTemporaryFile)
 {
     FOrvTempDirectory Directory;
-    const std::string Target = (Directory.Path / "Schedule.csv").string();
-    FOrvHostFiles Files;
-
-    ASSERT_TRUE(Files.SaveStringToFile("first", Target));
-    EXPECT_FALSE(Files.SaveStringToFile("second", Target));
-    EXPECT_TRUE(Files.bLastFailureWasExistingFile);
-    EXPECT_EQ(ReadFile(Target), "first");
-
-    Files.bAllowOverwrite = true;
-    ASSERT_TRUE(Files.SaveStringToFile("third", Target));
-    EXPECT_EQ(ReadFile(Target), "third");
-    EXPECT_EQ(Files.LastSavedPath, Target);
-
-    EXPECT_FALSE(Files.SaveStringToFile("x", (Directory.Path / "missing" / "S.csv").string()));
-    EXPECT_FALSE(Files.LastError.empty());
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(Directory.Path), {}), 1);
-}
-
-TEST(FOrvOutlinerHostTest, ScheduleCommandWritesOnceAndOverwritesOnlyWhenForced)
-{
-    FOrvTempDirectory Directory;
-    FOrvScheduleOptions Options;
-    Options.OutputFile = (Directory.Path / "Villa").string();
-    Options.ProjectName = "Villa, Rosa";
-
-    ASSERT_EQ(RunScheduleCommand(Options), 0);
-    const std::filesystem::path Written = Directory.Path / "Villa.csv";
+    const std::filesystem::path Previous = std::filesystem::current_path();
+    std::filesystem::current_path(Directory.Path);
+    const int FirstExit = RunScheduleCommand({});
+    std::filesystem::current_path(Previous);
+    EXPECT_EQ(FirstExit, 0);
+    const std::filesystem::path Written = Directory.Path / "DemoRoom_ProductSchedule_R01.csv";
     const std::string First = ReadFile(Written);
-    EXPECT_NE(First.find("Project:,\"Villa, Rosa\",,,,,,,,,,\nDate:,"), std::string::npos);
     EXPECT_NE(First.find("Revision:,01,"), std::string::npos);
 
+    FOrvScheduleOptions Options;
+    Options.OutputFile = (Directory.Path / "DemoRoom_ProductSchedule_R01").string(); // the extension is added
+    Options.ProjectName = "Villa, Rosa";
     Options.Revision = "02";
     EXPECT_EQ(RunScheduleCommand(Options), 1);
     EXPECT_EQ(ReadFile(Written), First);
 
     Options.bForce = true;
     EXPECT_EQ(RunScheduleCommand(Options), 0);
-    EXPECT_NE(ReadFile(Written).find("Revision:,02,"), std::string::npos);
-}
+    const std::string Forced = ReadFile(Written);
+    EXPECT_NE(Forced.find("Project:,\"Villa, Rosa\",,,,,,,,,,\nDate:,"), std::string::npos);
+    EXPECT_NE(Forced.find("Revision:,02,"), std::string::npos);
 
-TEST(FOrvOutlinerHostTest, ScheduleCommandWithoutOptionsUsesThePanelsDefaultNameInTheCurrentDirectory)
-{
-    FOrvTempDirectory Directory;
-    const std::filesystem::path Previous = std::filesystem::current_path();
-    std::filesystem::current_path(Directory.Path);
-    const int ExitCode = RunScheduleCommand({});
-    std::filesystem::current_path(Previous);
-
-    EXPECT_EQ(ExitCode, 0);
-    EXPECT_TRUE(std::filesystem::exists(Directory.Path / "DemoRoom_ProductSchedule_R01.csv"));
+    Options.OutputFile = (Directory.Path / "missing" / "S.csv").string();
+    EXPECT_EQ(RunScheduleCommand(Options), 1);
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(Directory.Path), {}), 1);
 }

@@ -76,7 +76,7 @@ TEST(FOrvOutlinerPanelTextsTest, StatusCountsWithThePluralRuleAndThousandsGroupi
     EXPECT_EQ(FOrvOutlinerPanelTexts::FormatRowCount(1000), "x1,000");
 }
 
-TEST_F(FOrvOutlinerPanelModelTest, StatusShowsScanningThenTheNumberOfTaggedActors)
+TEST_F(FOrvOutlinerPanelModelTest, StatusShowsScanningThenTheNumberOfTaggedActorsAndAScanRunsOneAtATime)
 {
     FOrvOutlinerPanelModel Panel(Rig.PanelPorts());
     int Changes = 0;
@@ -87,6 +87,13 @@ TEST_F(FOrvOutlinerPanelModelTest, StatusShowsScanningThenTheNumberOfTaggedActor
     EXPECT_TRUE(Panel.IsRefreshing());
     EXPECT_TRUE(
         Rig.Log.Contains(EOrvLogVerbosity::Log, "OrvOutlinerPanel: Registered for world actor changes"));
+
+    // Refresh and level changes while the scan waits start no second one.
+    Panel.OnRefreshClicked();
+    Rig.Destroy(Chairs[0]);
+    Rig.Timers.Advance(1.0);
+    EXPECT_EQ(Rig.Api.Requests.size(), 1u);
+    EXPECT_EQ(Rig.Log.Count("OrvOutlinerScanner: Scan already in progress"), 0);
 
     Rig.Api.Answer(Answer());
     EXPECT_EQ(Panel.GetStatusText(), "6 products in scene") << "actors, not unique products";
@@ -114,7 +121,7 @@ TEST_F(FOrvOutlinerPanelModelTest, ExpansionIsKeptByNameAcrossTheDebouncedRescan
     EXPECT_EQ(Macro(*Panel, 1).ActorCount, 2);
 }
 
-TEST_F(FOrvOutlinerPanelModelTest, BurstOfLevelChangesGivesOneRescanHalfASecondAfterTheLast)
+TEST_F(FOrvOutlinerPanelModelTest, BurstOfLevelChangesGivesOneRescanHalfASecondAfterTheLastAndLightsGiveNone)
 {
     auto Panel = MakeScannedPanel();
     ASSERT_EQ(Rig.Log.Count("OrvOutlinerScanner: Found 3 unique products, 6 total actors"), 1);
@@ -132,31 +139,11 @@ TEST_F(FOrvOutlinerPanelModelTest, BurstOfLevelChangesGivesOneRescanHalfASecondA
     EXPECT_EQ(Rig.Log.Count("OrvOutlinerScanner: Found 3 unique products, 5 total actors"), 1);
     EXPECT_EQ(Rig.Timers.PendingCount(), 0u);
     EXPECT_EQ(Rig.Api.Requests.size(), 1u) << "known products come from the cache";
-}
 
-TEST_F(FOrvOutlinerPanelModelTest, OnlyActorsWithAStaticMeshComponentTriggerARescanWhenSpawned)
-{
-    auto Panel = MakeScannedPanel();
-
-    Rig.AddActor({}); // a light
+    Rig.AddActor({}); // a light: no static mesh component, no rescan
     EXPECT_EQ(Rig.Timers.PendingCount(), 0u);
-
     Rig.Editor.Editing().SpawnStaticMeshActor({}, {});
     EXPECT_EQ(Rig.Timers.PendingCount(), 1u);
-}
-
-TEST_F(FOrvOutlinerPanelModelTest, RefreshWhileAScanRunsIsIgnored)
-{
-    FOrvOutlinerPanelModel Panel(Rig.PanelPorts());
-    Panel.Construct();
-    Panel.OnRefreshClicked();
-    Rig.Destroy(Chairs[0]);
-    Rig.Timers.Advance(1.0);
-
-    EXPECT_EQ(Rig.Api.Requests.size(), 1u);
-    EXPECT_EQ(Rig.Log.Count("OrvOutlinerScanner: Scan already in progress"), 0);
-    Rig.Api.Answer(Answer());
-    EXPECT_FALSE(Panel.IsRefreshing());
 }
 
 TEST_F(FOrvOutlinerPanelModelTest, SelectingPicksOnlyLiveActorsOfTheRowAndLogs)
@@ -310,24 +297,7 @@ TEST_F(FOrvOutlinerPanelModelTest, ClosingThePanelMidScanAndMidDebounceLeavesNot
     EXPECT_EQ(Rig.Timers.PendingCount(), 0u);
 }
 
-TEST_F(FOrvOutlinerPanelModelTest, APanelOpenedBeforeAnyLevelFollowsTheMapOpenedLater)
-{
-    Rig.Editor.SetEditorWorldAvailable(false);
-    FOrvOutlinerPanelModel Panel(Rig.PanelPorts());
-    Panel.Construct();
-    EXPECT_EQ(Panel.GetStatusText(), "No products in scene");
-
-    Rig.Editor.SetEditorWorldAvailable(true);
-    Panel.OnMapOpened();
-    Rig.Api.Answer(Answer());
-    EXPECT_EQ(Panel.GetStatusText(), "6 products in scene");
-
-    Rig.Destroy(Chairs[0]);
-    Rig.Timers.Advance(FOrvOutlinerPanelModel::RefreshDebounceDelay);
-    EXPECT_EQ(Panel.GetStatusText(), "5 products in scene");
-}
-
-TEST_F(FOrvOutlinerPanelModelTest, ChangingMapsDropsTheOldLevelsPendingRescanScanAndNotifications)
+TEST_F(FOrvOutlinerPanelModelTest, ChangingMapsDropsTheOldLevelsRescanScanAndNotificationsAndFollowsTheNewOne)
 {
     FOrvOutlinerPanelModel Panel(Rig.PanelPorts());
     Panel.Construct(); // its catalogue request stays open
@@ -349,4 +319,17 @@ TEST_F(FOrvOutlinerPanelModelTest, ChangingMapsDropsTheOldLevelsPendingRescanSca
     Rig.Destroy(Chairs[2]);
     EXPECT_EQ(Rig.Timers.PendingCount(), 1u) << "listening to the new world, once";
     EXPECT_EQ(Rig.Log.Count("OrvOutlinerPanel: Registered for world actor changes"), 2);
+
+    // A panel opened before any level follows the map opened later.
+    Rig.Editor.SetEditorWorldAvailable(false);
+    FOrvOutlinerPanelModel Early(Rig.PanelPorts());
+    Early.Construct();
+    EXPECT_EQ(Early.GetStatusText(), "No products in scene");
+    Rig.Editor.SetEditorWorldAvailable(true);
+    Early.OnMapOpened();
+    Rig.Api.Answer(Answer());
+    EXPECT_EQ(Early.GetStatusText(), "3 products in scene");
+    Rig.Destroy(Lamps[0]);
+    Rig.Timers.Advance(FOrvOutlinerPanelModel::RefreshDebounceDelay);
+    EXPECT_EQ(Early.GetStatusText(), "2 products in scene");
 }

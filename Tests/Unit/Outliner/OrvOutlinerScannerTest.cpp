@@ -55,12 +55,14 @@ TEST_F(FOrvOutlinerScannerTest, LevelWithoutProductsCompletesAtOnceWithoutAsking
                                  "OrvOutlinerScanner: Found 0 unique products, 0 total actors"));
 }
 
-TEST_F(FOrvOutlinerScannerTest, ActorsAreGroupedByProductIdAndAskedForInOneBatch)
+TEST_F(FOrvOutlinerScannerTest, ActorsAreGroupedByTheFirstValidTagOfTheirComponentsAndAskedForInOneBatch)
 {
     const FOrvMeshRef Chair = Rig.AddProductMesh("SM_Chair", "P-CHAIR");
-    Rig.AddActor({Chair});
-    Rig.AddActor({Rig.AddProductMesh("SM_Lamp", "P-LAMP")});
+    const FOrvMeshRef Broken = Rig.AddProductMesh("SM_Broken", "P-BROKEN", false);
+    Rig.AddActor({Rig.AddPlainMesh("SM_Wall"), Chair});
+    Rig.AddActor({FOrvMeshRef{}, Broken, Rig.AddProductMesh("SM_Lamp", "P-LAMP"), Chair});
     Rig.AddActor({Rig.AddProductMesh("SM_Chair_Copy", "P-CHAIR")});
+    Rig.AddActor({Broken});
 
     Scanner.ScanScene(Run.Callback());
 
@@ -82,21 +84,6 @@ TEST_F(FOrvOutlinerScannerTest, ActorsAreGroupedByProductIdAndAskedForInOneBatch
     ASSERT_TRUE(Product);
     EXPECT_EQ(Product->Actors.size(), 2u);
     EXPECT_EQ(Product->Mesh, Chair) << "the mesh of the first actor met";
-}
-
-TEST_F(FOrvOutlinerScannerTest, FirstComponentWithAValidTagDecidesTheProduct)
-{
-    const FOrvMeshRef Broken = Rig.AddProductMesh("SM_Broken", "P-BROKEN", false);
-    const FOrvMeshRef Sofa = Rig.AddProductMesh("SM_Sofa", "P-SOFA");
-    Rig.AddActor({Rig.AddPlainMesh("SM_Wall"), Sofa});
-    Rig.AddActor({FOrvMeshRef{}, Broken, Rig.AddProductMesh("SM_Rug", "P-RUG"), Sofa});
-    Rig.AddActor({Broken});
-
-    Scanner.ScanScene(nullptr);
-
-    ASSERT_EQ(Rig.Api.Requests.size(), 1u);
-    EXPECT_EQ(Rig.Api.Requests[0].Body, R"({"product_ids":["P-SOFA","P-RUG"]})");
-    EXPECT_EQ(Scanner.GetTotalProductCount(), 2);
 }
 
 TEST_F(FOrvOutlinerScannerTest, CountsAreOfActorsThatStillExistWhenTheTreeIsBuilt)

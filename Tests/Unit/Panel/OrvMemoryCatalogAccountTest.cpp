@@ -82,17 +82,24 @@ TEST(FOrvMemoryCatalogAccountTest, ADownloadProgressesInstallsAndReportsInTheEdi
               (std::vector<std::string>{"downloader.queue.updated", "downloader.queue.updated"}));
 
     Rig.Wait(1.0);
+    EXPECT_NE(Rig.Bridge.Panel.Scripts.at(9).find(R"({"progress":1})"), std::string::npos) << "0.1 per tick";
     std::vector<std::string> Expected(10, "downloader.queue.progress");
     Expected.push_back("library.updated");
     Expected.push_back("downloader.queue.updated");
     EXPECT_EQ(Rig.TakeEvents(), Expected);
     ASSERT_EQ(Rig.Account.GetLibrary().InstalledProducts.size(), 1u);
     EXPECT_EQ(Rig.Account.GetLibrary().InstalledProducts[0].ProductName, "Sedia Arco");
+    EXPECT_EQ(Rig.Account.GetLibrary().InstalledProducts[0].Files.at(0).UnrealPath,
+              "/Game/ORVESSA/FNV-CH-1102/SM_FNV-CH-1102");
 
     Rig.Wait(1.0);
     Expected.back() = "downloader.queue.finished"; // the empty queue is not reported to the page
     EXPECT_EQ(Rig.TakeEvents(), Expected);
     EXPECT_EQ(Rig.Timers.PendingCount(), 0u);
+
+    Rig.Account.RemoveProductFromLibrary("FNV-CH-1102");
+    EXPECT_EQ(Rig.Account.GetLibrary().InstalledProducts.size(), 1u)
+        << "removing takes the installed copy too";
 }
 
 TEST(FOrvMemoryCatalogAccountTest, ADownloadThatCannotBeQueuedIsLoggedAndLeavesTheQueueAsItWas)

@@ -7,15 +7,18 @@
 
 using namespace OrvWebBridge;
 
-TEST(FOrvWebPanelServiceTest, OpenPanelLoadsAndRunsWhatItIsGivenAndLogsEach)
+TEST(FOrvWebPanelServiceTest, AnOpenPanelLoadsAndRunsWhatItIsGivenAndAClosedOneOnlyWarns)
 {
     FOrvFakeWebPanel Panel;
     FOrvRecordingLog Log;
     FOrvWebPanelService Service(Panel, Log);
+    const auto NavigateAndReload = [&]
+    {
+        Service.Navigate("https://catalog.example/go/product/P1");
+        Service.ExecuteScript("window.location.reload();");
+    };
 
-    Service.Navigate("https://catalog.example/go/product/P1");
-    Service.ExecuteScript("window.location.reload();");
-
+    NavigateAndReload();
     EXPECT_EQ(Panel.Loads, std::vector<std::string>{"https://catalog.example/go/product/P1"});
     EXPECT_EQ(Panel.Scripts, std::vector<std::string>{"window.location.reload();"});
     EXPECT_TRUE(
@@ -23,21 +26,11 @@ TEST(FOrvWebPanelServiceTest, OpenPanelLoadsAndRunsWhatItIsGivenAndLogsEach)
                      "OrvProductInfoPanel: Navigating WebBrowser to https://catalog.example/go/product/P1"));
     EXPECT_TRUE(
         Log.Contains(EOrvLogVerbosity::Display, "OrvProductInfoPanel: Executing JavaScript in WebBrowser"));
-}
 
-TEST(FOrvWebPanelServiceTest, ClosedPanelOnlyWarns)
-{
-    FOrvFakeWebPanel Panel;
     Panel.bOpen = false;
-    FOrvRecordingLog Log;
-    FOrvWebPanelService Service(Panel, Log);
-
-    Service.Navigate("https://catalog.example/go/product/P1");
-    Service.ExecuteScript("window.location.reload();");
-
-    EXPECT_TRUE(Panel.Loads.empty());
-    EXPECT_TRUE(Panel.Scripts.empty());
-    ASSERT_EQ(Log.Lines.size(), 2u);
+    NavigateAndReload();
+    EXPECT_EQ(Panel.Loads.size() + Panel.Scripts.size(), 2u);
+    ASSERT_EQ(Log.Lines.size(), 4u);
     EXPECT_TRUE(Log.Contains(EOrvLogVerbosity::Warning,
                              "OrvProductInfoPanel: WebBrowserWidget not valid, cannot navigate"));
     EXPECT_TRUE(Log.Contains(EOrvLogVerbosity::Warning,

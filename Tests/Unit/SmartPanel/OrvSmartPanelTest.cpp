@@ -5,17 +5,8 @@ using namespace OrvWebBridge;
 using FLines = std::vector<std::string>;
 using FOrvSmartPanelFollowsViewportTest = FOrvSmartPanelTestRig;
 using FOrvSmartPanelFollowsContentBrowserTest = FOrvSmartPanelTestRig;
+using FOrvSmartPanelLeavesThePageAloneTest = FOrvSmartPanelTestRig;
 using FOrvSmartPanelToolbarTest = FOrvSmartPanelTestRig;
-
-TEST_F(FOrvSmartPanelFollowsViewportTest, AfterStartUpSelectionOnlyLogsVerboseAndOpensNothing)
-{
-
-    SelectActors({"Sofa"});
-
-    EXPECT_TRUE(Panel.Loads.empty());
-    EXPECT_EQ(Transcript(),
-              FLines{"Verbose: OrvSmartPanel: Selection changed but auto-navigate is disabled"});
-}
 
 TEST_F(FOrvSmartPanelFollowsViewportTest, SelectedProductOpensItsPageWithTheLookupLogged)
 {
@@ -64,13 +55,37 @@ TEST_F(FOrvSmartPanelFollowsViewportTest, FirstValidProductInSelectionAndCompone
     EXPECT_EQ(Panel.Loads, FLines{ProductPage("VASE-1")});
 }
 
-TEST_F(FOrvSmartPanelFollowsViewportTest, ClosedPanelOrNoEditorLeavesThePageAlone)
+TEST_F(FOrvSmartPanelFollowsContentBrowserTest, FinishesAndProductMeshesOpenTheirPages)
 {
+    SmartPanel.SetAutoDetect(true);
+    Editor.AddAsset({"/Game/P/MI_Walnut", "/Game/P", "MI_Walnut", "/Script/Engine.materialinstanceconstant"},
+                    {{"Orv_FinishID", "WALNUT-1"}}); // class names compare ignoring case
+
+    SelectAssets({"T_Oak", "MI_Plain", "MI_Oak", "SM_Chair"});
+    SelectAssets({"SM_Chair"});
+    SelectAssets({"MI_Oak"});
+    SelectAssets({"MI_Walnut"});
+
+    EXPECT_EQ(Panel.Loads, (FLines{FinishPage("OAK-1"), ProductPage("CHAIR-1"), FinishPage("OAK-1"),
+                                   FinishPage("WALNUT-1")}));
+    EXPECT_TRUE(
+        Log.Contains(EOrvLogVerbosity::Display, "OrvSmartPanel: Auto-navigate to finish collection OAK-1"));
+}
+
+TEST_F(FOrvSmartPanelLeavesThePageAloneTest, WhileAutoDetectIsOffThePanelIsClosedOrThereIsNoEditor)
+{
+    // After start-up auto-detect is off: selections only log, and only verbosely.
+    SelectActors({"Sofa"});
+    SelectAssets({"MI_Oak"});
+    EXPECT_EQ(Transcript(),
+              FLines{"Verbose: OrvSmartPanel: Selection changed but auto-navigate is disabled"});
+
     SmartPanel.SetAutoDetect(true);
     Panel.bOpen = false;
     SelectActors({"Sofa"});
-    EXPECT_TRUE(
-        Log.Contains(EOrvLogVerbosity::Verbose, "OrvSmartPanel: Selection changed but panel is not open"));
+    SelectAssets({"SM_Sofa"});
+    EXPECT_EQ(Transcript(1), (FLines{"Display: OrvSmartPanel: Auto-Detect enabled",
+                                     "Verbose: OrvSmartPanel: Selection changed but panel is not open"}));
 
     // Before the editor engine exists the handler says nothing at all.
     Panel.bOpen = true;
@@ -79,41 +94,6 @@ TEST_F(FOrvSmartPanelFollowsViewportTest, ClosedPanelOrNoEditorLeavesThePageAlon
     SmartPanel.OnViewportSelectionChanged();
     EXPECT_EQ(Log.Lines.size(), Before);
     EXPECT_TRUE(Panel.Loads.empty());
-}
-
-TEST_F(FOrvSmartPanelFollowsContentBrowserTest, FinishesAndProductMeshesOpenTheirPages)
-{
-    SmartPanel.SetAutoDetect(true);
-
-    SelectAssets({"T_Oak", "MI_Plain", "MI_Oak", "SM_Chair"});
-    SelectAssets({"SM_Chair"});
-    SelectAssets({"MI_Oak"});
-
-    EXPECT_EQ(Panel.Loads, (FLines{FinishPage("OAK-1"), ProductPage("CHAIR-1"), FinishPage("OAK-1")}));
-    EXPECT_TRUE(
-        Log.Contains(EOrvLogVerbosity::Display, "OrvSmartPanel: Auto-navigate to finish collection OAK-1"));
-}
-
-TEST_F(FOrvSmartPanelFollowsContentBrowserTest, ClassNamesCompareIgnoringCase)
-{
-    SmartPanel.SetAutoDetect(true);
-    Editor.AddAsset({"/Game/P/MI_Walnut", "/Game/P", "MI_Walnut", "/Script/Engine.materialinstanceconstant"},
-                    {{"Orv_FinishID", "WALNUT-1"}});
-
-    SelectAssets({"MI_Walnut"});
-
-    EXPECT_EQ(Panel.Loads, FLines{FinishPage("WALNUT-1")});
-}
-
-TEST_F(FOrvSmartPanelFollowsContentBrowserTest, SilentWhileAutoDetectIsOffOrThePanelClosed)
-{
-    SelectAssets({"MI_Oak"});
-    SmartPanel.SetAutoDetect(true);
-    Panel.bOpen = false;
-    SelectAssets({"SM_Sofa"});
-
-    EXPECT_TRUE(Panel.Loads.empty());
-    EXPECT_EQ(Transcript(), FLines{"Display: OrvSmartPanel: Auto-Detect enabled"});
 }
 
 TEST_F(FOrvSmartPanelToolbarTest, CopyUrlCopiesWhatThePanelShowsAndTheToggleSaysWhatItDid)

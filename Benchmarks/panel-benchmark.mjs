@@ -5,8 +5,8 @@
 //   anchor: fetch("/__orv/health") and read its body
 // The three are measured in turn, sample by sample, so that drift affects them alike; p50 and p99 are
 // printed with their ratio to the anchor's (target: 1.5 or less). Use a Release host:
-//   ORV_HOST=build-release/orv-host node Tests/Browser/panel-benchmark.mjs [SAMPLES]
-import { InstallRecorder, LaunchBrowser, StartHost } from "./support.mjs";
+//   ORV_HOST=build-release/orv-host node Benchmarks/panel-benchmark.mjs [SAMPLES]
+import { InstallRecorder, LaunchBrowser, StartHost } from "../Tests/Browser/support.mjs";
 
 const Samples = Number(process.argv[2] || 2000);
 const Host = await StartHost();
