@@ -1,7 +1,7 @@
 #include "Core/Mcp/OrvMcpHandler.h"
+#include "Tests/Support/OrvGoldenFile.h"
 #include "Tests/Support/OrvMcpTestRequests.h"
 #include "Tests/Support/OrvNullEditorPorts.h"
-#include "Tests/Unit/OrvGoldenFile.h"
 
 #include <gtest/gtest.h>
 

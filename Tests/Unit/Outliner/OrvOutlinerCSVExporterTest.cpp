@@ -1,5 +1,5 @@
 #include "Core/Outliner/OrvOutlinerCSVExporter.h"
-#include "Tests/Unit/OrvGoldenFile.h"
+#include "Tests/Support/OrvGoldenFile.h"
 #include "Tests/Unit/Outliner/OrvOutlinerTestRig.h"
 
 #include <gtest/gtest.h>
