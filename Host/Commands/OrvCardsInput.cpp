@@ -35,7 +35,7 @@ namespace OrvWebBridge
         // Full precision so numbers print as the engine's reader (strtod) would have read them; records
         // must be valid UTF-8 because the cards copy their text into the output unchanged.
         FOrvJsonParseError ParseError;
-        if (!FOrvJson::Parse(Text, Document, &ParseError, {.bValidateUtf8 = true, .bFullPrecision = true}))
+        if (!FOrvJson::Parse(Text, Document, &ParseError, {.bValidateUtf8 = true}))
         {
             OutError = "invalid JSON at " + FOrvJson::DescribeParseError(Text, ParseError);
             return false;

@@ -35,11 +35,9 @@ namespace OrvWebBridge
             FOrvSceneFileResult Read(const std::string& Text)
             {
                 rapidjson::Document Document;
-                // Numbers correctly rounded, as the writer's shortest form assumes: a scene saved and
-                // loaded again keeps every number to the last bit.
+                // Strict UTF-8: the scene is our own format, so a bad byte is refused with its place.
                 FOrvJsonParseError ParseError;
-                if (!FOrvJson::Parse(Text, Document, &ParseError,
-                                     {.bValidateUtf8 = true, .bFullPrecision = true}) ||
+                if (!FOrvJson::Parse(Text, Document, &ParseError, {.bValidateUtf8 = true}) ||
                     !Document.IsObject())
                 {
                     return {false, SourceName + ": " + FOrvJson::DescribeParseError(Text, ParseError)};

@@ -97,18 +97,20 @@ TEST(FOrvJsonTest, NestingIsBoundedWithoutRecursionAndTheErrorSaysWhere)
     EXPECT_EQ(FOrvJson::DescribeParseError(R"({"a":[1,}])", Error), "line 1, column 9: Invalid value.");
 }
 
-TEST(FOrvJsonTest, FullPrecisionNumbersRoundCorrectlyUnderflowToZeroAndRefuseOverflow)
+TEST(FOrvJsonTest, NumbersRoundCorrectlyUnderflowToZeroAndRefuseOverflow)
 {
     const auto Read = [](const std::string& Text) -> std::optional<double>
     {
         rapidjson::Document Document;
-        if (!FOrvJson::Parse(Text, Document, nullptr, {.bFullPrecision = true}))
+        if (!FOrvJson::Parse(Text, Document))
         {
             return std::nullopt;
         }
         return Document.GetDouble();
     };
     EXPECT_EQ(Read("0.1"), 0.1);
+    EXPECT_EQ(Read("1018446744073701551616"), 1.0184467440737016e21)
+        << "RapidJSON's own reading is 1 ulp off";
     EXPECT_EQ(Read("0.0e30"), 0.0);
     EXPECT_EQ(Read("0." + std::string(400, '0') + "1"), 0.0);
     EXPECT_EQ(Read("-1e-400"), -0.0);

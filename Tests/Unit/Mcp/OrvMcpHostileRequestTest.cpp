@@ -121,6 +121,9 @@ TEST_F(FOrvMcpHostileRequestTest, NumbersTheEngineCouldNotHoldAreRefusedOthersEc
         << "rounds to infinity, which would be echoed as null";
     EXPECT_EQ(OrvCondensedJson(Answer(R"({"id":18446744073709551615,"method":"ping"})")),
               R"({"jsonrpc":"2.0","id":18446744073709551615,"result":{}})");
+    EXPECT_EQ(OrvCondensedJson(Answer(R"({"id":1018446744073701551616,"method":"ping"})")),
+              R"({"jsonrpc":"2.0","id":1.0184467440737016e21,"result":{}})")
+        << "the id that came in, correctly rounded, so the client can match it";
     EXPECT_EQ(OrvCondensedJson(Answer(R"({"id":-0,"method":"ping"})")),
               R"({"jsonrpc":"2.0","id":0,"result":{}})");
 }

@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <cmath>
 #include <system_error>
 
 namespace OrvWebBridge
@@ -62,25 +61,16 @@ namespace OrvWebBridge
 
             bool Null() { return Target.Null(); }
             bool Bool(bool bValue) { return Target.Bool(bValue); }
+            // Numbers arrive as text (kParseNumbersAsStringsFlag) and are converted in RawNumber: RapidJSON
+            // 1.1.0's own conversion is not correctly rounded, and its full-precision one has undefined
+            // behaviour on zeros written with a fraction and on long fractions.
             bool Int(int Value) { return Target.Int(Value); }
             bool Uint(unsigned Value) { return Target.Uint(Value); }
             bool Int64(std::int64_t Value) { return Target.Int64(Value); }
             bool Uint64(std::uint64_t Value) { return Target.Uint64(Value); }
-            // RapidJSON refuses exponents beyond 308 but lets "21e308" round to infinity, which JSON cannot
-            // write back (it would come out as null): as large a number is refused the same way.
-            bool Double(double Value)
-            {
-                if (!std::isfinite(Value))
-                {
-                    ValueError = rapidjson::kParseErrorNumberTooBig;
-                    return false;
-                }
-                return Target.Double(Value);
-            }
-            // Only called in full-precision reads, which take numbers as text (kParseNumbersAsStringsFlag):
-            // converted here as strtod converts them, correctly rounded. (RapidJSON 1.1.0's own
-            // full-precision conversion has undefined behaviour on zeros written with a fraction and on long
-            // fractions.)
+            bool Double(double Value) { return Target.Double(Value); }
+            // Converted as strtod converts: a number too large for a double (RapidJSON would let "21e308"
+            // round to infinity, which JSON can only write back as null) is refused; one too small is zero.
             bool RawNumber(const char* Text, rapidjson::SizeType Length, bool)
             {
                 const std::string_view Number(Text, Length);
@@ -203,12 +193,8 @@ namespace OrvWebBridge
         FOrvJsonParseError Error;
         constexpr unsigned Validate = rapidjson::kParseValidateEncodingFlag;
         constexpr unsigned Precise = rapidjson::kParseNumbersAsStringsFlag; // converted in RawNumber
-        const bool bOk =
-            Options.bValidateUtf8
-                ? (Options.bFullPrecision ? OrvJsonParse<Validate | Precise>(Text, Out, Error)
-                                          : OrvJsonParse<Validate>(Text, Out, Error))
-                : (Options.bFullPrecision ? OrvJsonParse<Precise>(Text, Out, Error)
-                                          : OrvJsonParse<rapidjson::kParseNoFlags>(Text, Out, Error));
+        const bool bOk = Options.bValidateUtf8 ? OrvJsonParse<Validate | Precise>(Text, Out, Error)
+                                               : OrvJsonParse<Precise>(Text, Out, Error);
         if (OutError)
         {
             *OutError = Error;

@@ -21,8 +21,6 @@ namespace OrvWebBridge
     {
         /** Refuse text that is not UTF-8, escapes included (else it passes and the writer repairs it). */
         bool bValidateUtf8 = false;
-        /** Numbers read as strtod reads them, correctly rounded. */
-        bool bFullPrecision = false;
     };
 
     /** @brief Small read helpers over RapidJSON values, in the spirit of FJsonObject's TryGet* calls. */
@@ -34,8 +32,10 @@ namespace OrvWebBridge
         /**
          * The one way text becomes JSON, for every reader of the core and the host. Parses without
          * recursion, so hostile nesting cannot exhaust the stack, and refuses nesting deeper than MaxDepth,
-         * so nothing that walks the value later recurses deeper than that. False on failure, with the
-         * reason in OutError when given.
+         * so nothing that walks the value later recurses deeper than that. Numbers are read correctly
+         * rounded, as the engine's strtod-based reader reads them, so an id or a coordinate written back
+         * in its shortest form is the number that came in. False on failure, with the reason in OutError
+         * when given.
          */
         static bool Parse(std::string_view Text, rapidjson::Document& Out,
                           FOrvJsonParseError* OutError = nullptr, FOrvJsonParseOptions Options = {});
