@@ -22,21 +22,10 @@ namespace
     };
 } // namespace
 
-TEST_F(FOrvServeHttpEndToEndTest, HealthAndSseAnswerExactlyAndUnknownPathsGet404)
+// The fixed answers of the GET routes are the server's unit tests' business; here the real HTTP server
+// must refuse what no route takes without dropping the connection.
+TEST_F(FOrvServeHttpEndToEndTest, UnknownPathsGet404AndTheConnectionServesOn)
 {
-    const FOrvTestHttpReply Health = Host.Client().Get("/health");
-    EXPECT_EQ(Health.Status, 200);
-    EXPECT_EQ(Health.Body, R"({"status":"ok","service":"orvessa-ue-mcp"})");
-    EXPECT_EQ(Health.Header("Content-Type"), "application/json");
-    EXPECT_EQ(Health.Header("Access-Control-Allow-Origin"), "");
-
-    const FOrvTestHttpReply Sse = Host.Client().Get("/sse");
-    EXPECT_EQ(Sse.Status, 200);
-    EXPECT_EQ(Sse.Body, "event: endpoint\ndata: /sse\n\n");
-    EXPECT_EQ(Sse.Header("Content-Type"), "text/event-stream");
-    EXPECT_EQ(Sse.Header("Cache-Control"), "no-cache");
-    EXPECT_EQ(Sse.Header("Access-Control-Allow-Origin"), "*");
-
     EXPECT_EQ(Host.Client().Get("/.well-known/oauth-authorization-server").Status, 404);
     EXPECT_EQ(Host.Client().Get("/mcp").Status, 404);
     EXPECT_EQ(Host.Client().Get("/health").Status, 200) << "the connection survives the 404s";

@@ -1,4 +1,3 @@
-#include "Core/Json/OrvJson.h"
 #include "Tests/Support/OrvServedHost.h"
 
 #include <gtest/gtest.h>
@@ -78,21 +77,6 @@ TEST(FOrvServeLifecycleEndToEndTest, StartUpAndShutDownLogTheModuleLinesInTheEdi
                   StoppedLine,
                   "LogTemp: Display: OrvSmartPanel: Alt+R input processor unregistered",
               }));
-}
-
-TEST(FOrvServeLifecycleEndToEndTest, QuitAsksOnceWhenTheLevelHasUnsavedChanges)
-{
-    FOrvServedHost Host;
-    std::string Error;
-    ASSERT_TRUE(Host.Start(ORV_HOST_EXECUTABLE, {}, Error)) << Error;
-    const FOrvToolReply Spawned = Host.CallTool("ue_spawn_product", R"({"asset_path":"SM_Chair"})");
-    ASSERT_FALSE(FOrvJson::GetStringField(Spawned.Json(), "id").empty()) << Spawned.Envelope;
-
-    EXPECT_EQ(Host.Console("quit"),
-              "The level has unsaved changes. Type quit again to leave without saving, or save first.");
-    EXPECT_EQ(Host.Client().Get("/health").Status, 200) << "still serving after the warning";
-    EXPECT_EQ(Host.Console("quit"), "Bye.");
-    EXPECT_EQ(Host.Process().WaitForExit(ExitTimeoutSeconds), 0);
 }
 
 TEST(FOrvServeLifecycleEndToEndTest, NoConsoleIgnoresStandardInput)

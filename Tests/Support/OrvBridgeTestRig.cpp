@@ -12,17 +12,4 @@ namespace OrvWebBridge
               [this]() -> FOrvWebPanelSession* { return bHasModule ? &Session : nullptr; }, Windows, Log})
     {
     }
-
-    std::vector<std::string> FOrvBridgeTestRig::Problems() const
-    {
-        std::vector<std::string> Found;
-        for (const FOrvRecordingLog::FLine& Line : Log.Lines)
-        {
-            if (Line.Verbosity == EOrvLogVerbosity::Warning || Line.Verbosity == EOrvLogVerbosity::Error)
-            {
-                Found.push_back(std::string(OrvLogVerbosityName(Line.Verbosity)) + ": " + Line.Message);
-            }
-        }
-        return Found;
-    }
 } // namespace OrvWebBridge

@@ -191,8 +191,5 @@ namespace OrvWebBridge
         bool bHasModule = true;
         FOrvWebPanelSession Session;
         FOrvScriptBridge Bridge;
-
-        /** Log lines at Warning or Error, in order. */
-        std::vector<std::string> Problems() const;
     };
 } // namespace OrvWebBridge

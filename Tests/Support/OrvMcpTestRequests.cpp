@@ -3,15 +3,20 @@
 #include "Core/Json/OrvJson.h"
 #include "Core/Json/OrvJsonWriter.h"
 
+#include <gtest/gtest.h>
+
+#include <vector>
+
 namespace OrvWebBridge
 {
-    std::vector<std::string> OrvSendMcpRequest(FOrvMcpHandler& Handler, FOrvManualGameThread& GameThread,
-                                               std::string_view Body)
+    std::string OrvSendMcpRequest(FOrvMcpHandler& Handler, FOrvManualGameThread& GameThread,
+                                  std::string_view Body)
     {
         std::vector<std::string> Responses;
         Handler.HandleRequest(Body, [&Responses](std::string Text) { Responses.push_back(std::move(Text)); });
         GameThread.RunPending();
-        return Responses;
+        EXPECT_EQ(Responses.size(), 1u) << "request: " << Body.substr(0, 200);
+        return Responses.size() == 1 ? Responses.front() : std::string();
     }
 
     std::string OrvCondensedJson(std::string_view JsonText)

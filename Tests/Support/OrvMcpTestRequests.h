@@ -7,13 +7,13 @@
 
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace OrvWebBridge
 {
-    /** @brief Sends one request body, then runs the game thread until idle; returns every response text. */
-    std::vector<std::string> OrvSendMcpRequest(FOrvMcpHandler& Handler, FOrvManualGameThread& GameThread,
-                                               std::string_view Body);
+    /** @brief Sends one request body and runs the game thread until idle; the one response text (empty, and
+     * the test failed, unless exactly one came). */
+    std::string OrvSendMcpRequest(FOrvMcpHandler& Handler, FOrvManualGameThread& GameThread,
+                                  std::string_view Body);
 
     /** @brief JSON text condensed, members in their order; text that is not JSON as "<not JSON: ...>". */
     std::string OrvCondensedJson(std::string_view JsonText);

@@ -28,4 +28,28 @@ namespace OrvWebBridge
         }
         return Found;
     }
+
+    std::vector<std::string> FOrvRecordingLog::Transcript(std::size_t First) const
+    {
+        std::vector<std::string> Found;
+        for (std::size_t Index = First; Index < Lines.size(); ++Index)
+        {
+            Found.push_back(std::string(OrvLogVerbosityName(Lines[Index].Verbosity)) + ": " +
+                            Lines[Index].Message);
+        }
+        return Found;
+    }
+
+    std::vector<std::string> FOrvRecordingLog::Problems(std::size_t First) const
+    {
+        std::vector<std::string> Found;
+        for (std::string& Line : Transcript(First))
+        {
+            if (Line.starts_with("Warning: ") || Line.starts_with("Error: "))
+            {
+                Found.push_back(std::move(Line));
+            }
+        }
+        return Found;
+    }
 } // namespace OrvWebBridge

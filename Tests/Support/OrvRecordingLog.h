@@ -26,6 +26,12 @@ namespace OrvWebBridge
         /** How many lines carry exactly this message. */
         int Count(std::string_view Message) const;
 
+        /** Every line as "Verbosity: message", from line First on. */
+        std::vector<std::string> Transcript(std::size_t First = 0) const;
+
+        /** The warnings and errors among them. */
+        std::vector<std::string> Problems(std::size_t First = 0) const;
+
         std::vector<FLine> Lines;
     };
 } // namespace OrvWebBridge

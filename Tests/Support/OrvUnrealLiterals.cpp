@@ -251,13 +251,10 @@ namespace OrvWebBridge
             std::ifstream Stream(File, std::ios::binary);
             std::stringstream Text;
             Text << Stream.rdbuf();
-            Literals.ScanText(std::filesystem::relative(File, SourceRoot).generic_string(), Text.str());
+            FLiteralReader(std::filesystem::relative(File, SourceRoot).generic_string(), Tokenize(Text.str()),
+                           Literals)
+                .Run();
         }
         return Literals;
-    }
-
-    void FOrvUnrealLiterals::ScanText(std::string_view FileName, std::string_view Source)
-    {
-        FLiteralReader(FileName, Tokenize(Source), *this).Run();
     }
 } // namespace OrvWebBridge

@@ -2,7 +2,6 @@
 
 #include <filesystem>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace OrvWebBridge
@@ -43,8 +42,5 @@ namespace OrvWebBridge
 
         /** Reads every .h and .cpp under SourceRoot except the engine-free core (Private/Core). */
         static FOrvUnrealLiterals ScanFolder(const std::filesystem::path& SourceRoot);
-
-        /** Reads one source text; FileName only labels the places. */
-        void ScanText(std::string_view FileName, std::string_view Source);
     };
 } // namespace OrvWebBridge

@@ -29,7 +29,7 @@ TEST(FOrvScriptBridgeTest, WithoutTheAccountEveryFunctionWarnsAndGivesItsDefault
 
     std::vector<std::string> Expected(9, NoSubsystem);
     Expected.push_back("Error: Orv Bridge - TriggerAuthCheck failed - OrvSubsystem was not valid.");
-    EXPECT_EQ(Rig.Problems(), Expected);
+    EXPECT_EQ(Rig.Log.Problems(), Expected);
     EXPECT_TRUE(Rig.Journal.empty()) << "signing out without the account must leave the browser's cookies";
 }
 
@@ -49,7 +49,7 @@ TEST(FOrvScriptBridgeTest, SetSessionTokenStoresSignsInInjectsThenReloadsLater)
     EXPECT_EQ(Rig.Jar.Cookies[0].Domain, ".site.example");
     EXPECT_TRUE(Rig.Log.Contains(EOrvLogVerbosity::Log,
                                  "[Auth] StoreSessionToken - Token stored, CookieJar now has 1 cookies"));
-    EXPECT_TRUE(Rig.Problems().empty());
+    EXPECT_TRUE(Rig.Log.Problems().empty());
 }
 
 TEST(FOrvScriptBridgeTest, ASessionTokenThatCannotBeStoredChangesNothing)
@@ -72,7 +72,7 @@ TEST(FOrvScriptBridgeTest, ASessionTokenThatCannotBeStoredChangesNothing)
         Rig.bHasJar = Case.bHasJar;
         Rig.bHasModule = Case.bHasModule;
         Rig.Bridge.SetSessionToken(Case.Token);
-        EXPECT_EQ(Rig.Problems(), std::vector<std::string>{Case.Problem});
+        EXPECT_EQ(Rig.Log.Problems(), std::vector<std::string>{Case.Problem});
         EXPECT_TRUE(Rig.Journal.empty()) << Case.Problem;
     }
 }
@@ -100,11 +100,11 @@ TEST(FOrvScriptBridgeTest, WithoutTheModulePanelCallsFailLoudlyAndThePopupFallsB
     Rig.Bridge.OpenOAuthPopup("https://site.example/login");
     Rig.Bridge.TestOrvEventBus();
 
-    EXPECT_EQ(Rig.Problems(), (std::vector<std::string>{
-                                  "Error: [Auth] RefreshPanel - Module not available",
-                                  "Error: [OAuth] Module not available, falling back to external browser",
-                                  "Warning: Orv Bridge - TestOrvEventBus CALLED",
-                              }));
+    EXPECT_EQ(Rig.Log.Problems(), (std::vector<std::string>{
+                                      "Error: [Auth] RefreshPanel - Module not available",
+                                      "Error: [OAuth] Module not available, falling back to external browser",
+                                      "Warning: Orv Bridge - TestOrvEventBus CALLED",
+                                  }));
     EXPECT_EQ(Rig.Windows.Launched, std::vector<std::string>{"https://site.example/login"});
     EXPECT_TRUE(Rig.Panel.Scripts.empty());
 }
@@ -114,8 +114,9 @@ TEST(FOrvScriptBridgeTest, EmptyUrlsOpenNothing)
     FOrvBridgeTestRig Rig;
     Rig.Bridge.OpenExternalURL("");
     Rig.Bridge.OpenOAuthPopup("");
-    EXPECT_EQ(Rig.Problems(), (std::vector<std::string>{"Error: Orv Bridge - OpenExternalURL: URL is empty!",
-                                                        "Error: [OAuth] URL is empty!"}));
+    EXPECT_EQ(Rig.Log.Problems(),
+              (std::vector<std::string>{"Error: Orv Bridge - OpenExternalURL: URL is empty!",
+                                        "Error: [OAuth] URL is empty!"}));
     EXPECT_TRUE(Rig.Windows.Launched.empty());
     EXPECT_FALSE(Rig.Windows.OnUrlChanged);
 }

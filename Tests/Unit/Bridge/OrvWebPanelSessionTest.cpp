@@ -89,7 +89,7 @@ TEST(FOrvWebPanelSessionTest, EachMissingLinkToTheCookieStoreIsNamedAndNothingIs
         }
         bool bDone = false;
         Rig.Session.InjectCookiesIntoCEF([&] { bDone = true; });
-        EXPECT_EQ(Rig.Problems(), std::vector<std::string>{std::string("Warning: ") + Case.Warning});
+        EXPECT_EQ(Rig.Log.Problems(), std::vector<std::string>{std::string("Warning: ") + Case.Warning});
         EXPECT_TRUE(Rig.Cookies.Set.empty()) << Case.Warning;
         EXPECT_TRUE(bDone) << "a failed injection must not hold the site back: " << Case.Warning;
     }
@@ -138,7 +138,7 @@ TEST(FOrvWebPanelSessionTest, TheSignInPopupClosesOnceAtItsSuccessPageAndTellsTh
     NoPanel.Bridge.OpenOAuthPopup("https://site.example/oauth/start");
     NoPanel.Windows.OnUrlChanged("https://site.example/callback?oauth_complete=true");
     EXPECT_EQ(NoPanel.Windows.Closed, 1);
-    EXPECT_EQ(NoPanel.Problems(),
+    EXPECT_EQ(NoPanel.Log.Problems(),
               std::vector<std::string>{"Warning: ORVESSA: OAuth completed but main panel not available"});
 
     FOrvBridgeTestRig NoPopups;

@@ -44,9 +44,7 @@ namespace
     protected:
         std::string Answer(std::string_view Body)
         {
-            const std::vector<std::string> Responses = OrvSendMcpRequest(Handler, Editor.GameThread, Body);
-            EXPECT_EQ(Responses.size(), 1u);
-            return Responses.empty() ? std::string() : Responses.front();
+            return OrvSendMcpRequest(Handler, Editor.GameThread, Body);
         }
 
         FOrvNullEditorPorts Editor;

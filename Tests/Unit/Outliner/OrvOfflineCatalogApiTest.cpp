@@ -1,4 +1,5 @@
 #include "Host/Catalog/OrvOfflineCatalogApi.h"
+#include "Tests/Support/OrvApiOutcome.h"
 #include "Tests/Support/OrvManualGameThread.h"
 
 #include <gtest/gtest.h>
@@ -12,23 +13,6 @@ namespace
          "designer":"Le Corbusier","weight":32},
         {"id":"P-ARCO","name":"Arco","brand":"Flos","category":"Floor Lamps","collection":null}
     ]})";
-
-    struct FAnswer
-    {
-        int Calls = 0;
-        bool bSuccess = false;
-        std::shared_ptr<const rapidjson::Document> Document;
-
-        FOrvApiCallback Callback()
-        {
-            return [this](bool bInSuccess, std::shared_ptr<const rapidjson::Document> InDocument)
-            {
-                ++Calls;
-                bSuccess = bInSuccess;
-                Document = std::move(InDocument);
-            };
-        }
-    };
 } // namespace
 
 TEST(FOrvOfflineCatalogApiTest, BatchAnswersFoundAndMissingIdsLaterOnTheGameThreadAndNothingElse)
@@ -36,9 +20,9 @@ TEST(FOrvOfflineCatalogApiTest, BatchAnswersFoundAndMissingIdsLaterOnTheGameThre
     FOrvManualGameThread GameThread;
     FOrvOfflineCatalogApi Api(GameThread);
     ASSERT_TRUE(Api.LoadText(CatalogText, "catalog.json").bOk);
-    FAnswer Batch;
-    FAnswer Unknown;
-    FAnswer BadBody;
+    FOrvApiOutcome Batch;
+    FOrvApiOutcome Unknown;
+    FOrvApiOutcome BadBody;
 
     Api.Post("/orvvault/products/batch", R"({"product_ids":["P-ARCO","P-NOPE","P-ARCO",7]})",
              Batch.Callback());
@@ -48,8 +32,8 @@ TEST(FOrvOfflineCatalogApiTest, BatchAnswersFoundAndMissingIdsLaterOnTheGameThre
     GameThread.RunPending();
 
     ASSERT_EQ(Batch.Calls, 1);
-    ASSERT_TRUE(Batch.bSuccess && Batch.Document);
-    const rapidjson::Document& Document = *Batch.Document;
+    ASSERT_TRUE(Batch.bSuccess && Batch.Answer);
+    const rapidjson::Document& Document = *Batch.Answer;
     EXPECT_TRUE(Document["status"].GetBool());
     ASSERT_EQ(Document["products"].MemberCount(), 1u);
     EXPECT_STREQ(Document["products"]["P-ARCO"]["brand"].GetString(), "Flos");
@@ -58,9 +42,9 @@ TEST(FOrvOfflineCatalogApiTest, BatchAnswersFoundAndMissingIdsLaterOnTheGameThre
 
     EXPECT_EQ(Unknown.Calls, 1);
     EXPECT_FALSE(Unknown.bSuccess);
-    EXPECT_EQ(Unknown.Document, nullptr);
-    ASSERT_TRUE(BadBody.bSuccess && BadBody.Document);
-    EXPECT_FALSE((*BadBody.Document)["status"].GetBool());
+    EXPECT_EQ(Unknown.Answer, nullptr);
+    ASSERT_TRUE(BadBody.bSuccess && BadBody.Answer);
+    EXPECT_FALSE((*BadBody.Answer)["status"].GetBool());
 }
 
 TEST(FOrvOfflineCatalogApiTest, MalformedCataloguesAreRefusedWithWhereAndWhy)

@@ -117,7 +117,7 @@ TEST(FOrvMemoryCatalogAccountTest, ADownloadThatCannotBeQueuedIsLoggedAndLeavesT
     EXPECT_TRUE(Rig.TakeEvents().empty());
     ASSERT_EQ(Rig.Account.GetQueue().GetEntries().size(), 1u);
     EXPECT_EQ(
-        Rig.Bridge.Problems(),
+        Rig.Bridge.Log.Problems(),
         (std::vector<std::string>{
             "Warning: OrvCore (host): download of \"FNV-CH-1102\" (product) not queued: nobody is signed in",
             "Warning: OrvCore (host): download of \"NO-SUCH-ID\" (product) not queued: the catalogue has no "

@@ -21,20 +21,17 @@ TEST(FOrvWebPanelServiceTest, AnOpenPanelLoadsAndRunsWhatItIsGivenAndAClosedOneO
     NavigateAndReload();
     EXPECT_EQ(Panel.Loads, std::vector<std::string>{"https://catalog.example/go/product/P1"});
     EXPECT_EQ(Panel.Scripts, std::vector<std::string>{"window.location.reload();"});
-    EXPECT_TRUE(
-        Log.Contains(EOrvLogVerbosity::Display,
-                     "OrvProductInfoPanel: Navigating WebBrowser to https://catalog.example/go/product/P1"));
-    EXPECT_TRUE(
-        Log.Contains(EOrvLogVerbosity::Display, "OrvProductInfoPanel: Executing JavaScript in WebBrowser"));
 
     Panel.bOpen = false;
     NavigateAndReload();
     EXPECT_EQ(Panel.Loads.size() + Panel.Scripts.size(), 2u);
-    ASSERT_EQ(Log.Lines.size(), 4u);
-    EXPECT_TRUE(Log.Contains(EOrvLogVerbosity::Warning,
-                             "OrvProductInfoPanel: WebBrowserWidget not valid, cannot navigate"));
-    EXPECT_TRUE(Log.Contains(EOrvLogVerbosity::Warning,
-                             "OrvProductInfoPanel: WebBrowserWidget not valid, cannot execute JavaScript"));
+    EXPECT_EQ(
+        Log.Transcript(),
+        (std::vector<std::string>{
+            "Display: OrvProductInfoPanel: Navigating WebBrowser to https://catalog.example/go/product/P1",
+            "Display: OrvProductInfoPanel: Executing JavaScript in WebBrowser",
+            "Warning: OrvProductInfoPanel: WebBrowserWidget not valid, cannot navigate",
+            "Warning: OrvProductInfoPanel: WebBrowserWidget not valid, cannot execute JavaScript"}));
 }
 
 TEST(FOrvWebPanelServiceTest, WhatThePanelsBrowserReportsIsLoggedWithLevelSourceAndLine)
@@ -46,11 +43,9 @@ TEST(FOrvWebPanelServiceTest, WhatThePanelsBrowserReportsIsLoggedWithLevelSource
     FOrvWebPanelService::LogLoadCompleted(Log);
     FOrvWebPanelService::LogLoadError(Log);
 
-    ASSERT_EQ(Log.Lines.size(), 3u);
-    EXPECT_TRUE(Log.Contains(EOrvLogVerbosity::Log,
-                             "[OrvBridge JS Console][5] Uncaught TypeError: x is undefined "
-                             "(at https://orvessa.com/app.js:42)"));
-    EXPECT_TRUE(Log.Contains(EOrvLogVerbosity::Log, "[OrvBridge] Load completed."));
-    EXPECT_TRUE(
-        Log.Contains(EOrvLogVerbosity::Error, "[OrvBridge] Load ERROR (no details provided by delegate)"));
+    EXPECT_EQ(Log.Transcript(),
+              (std::vector<std::string>{"Log: [OrvBridge JS Console][5] Uncaught TypeError: x is undefined "
+                                        "(at https://orvessa.com/app.js:42)",
+                                        "Log: [OrvBridge] Load completed.",
+                                        "Error: [OrvBridge] Load ERROR (no details provided by delegate)"}));
 }

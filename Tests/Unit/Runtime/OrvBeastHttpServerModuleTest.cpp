@@ -9,8 +9,9 @@
 
 using namespace OrvWebBridge;
 
-// The exact /health and /sse answers, -32700 on broken bodies and the busy-port message are proved over
-// the real binary by the end-to-end tests; these cover what the server does with HTTP itself.
+// The exact /health and /sse answers are the MCP server's unit tests'; -32700 on broken bodies and the
+// busy-port message are proved over the real binary by the end-to-end tests. These cover what the server
+// does with HTTP itself.
 
 TEST(FOrvBeastHttpServerModuleTest, PathsMatchLikeTheEngineRouterAndTheFallbackTakesOnlyWhatNoRouteTakes)
 {

@@ -2,6 +2,7 @@
 
 #include "Host/Runtime/OrvHostEventLoop.h"
 #include "Host/Runtime/OrvHttpUrl.h"
+#include "Tests/Support/OrvApiOutcome.h"
 #include "Tests/Support/OrvTestCatalogService.h"
 
 #include <gtest/gtest.h>
@@ -15,24 +16,6 @@ using namespace OrvWebBridge;
 namespace
 {
     constexpr const char* BatchPath = "/orvvault/products/batch";
-
-    /** Every call of one completion, so "exactly once" can be checked. */
-    struct FOrvApiOutcome
-    {
-        int Calls = 0;
-        bool bSuccess = false;
-        std::shared_ptr<const rapidjson::Document> Answer;
-
-        FOrvApiCallback Callback()
-        {
-            return [this](bool bInSuccess, std::shared_ptr<const rapidjson::Document> InAnswer)
-            {
-                ++Calls;
-                bSuccess = bInSuccess;
-                Answer = std::move(InAnswer);
-            };
-        }
-    };
 
     FOrvTestCatalogAnswer Answer(std::string Body, int Status = 200, double DelaySeconds = 0.0)
     {

@@ -33,26 +33,22 @@ namespace
     };
 } // namespace
 
+// Opening and not reloading are the browser suite's; here, how the console finds what it is given.
 TEST_F(FOrvServeSmartPanelTest, ViewportSelectionByNameOrUniqueLabelDrivesThePanelWithAutoDetect)
 {
     EXPECT_EQ(Console.Execute("autodetect ON"), "Auto-Detect is on.\n");
-
-    EXPECT_EQ(Console.Execute("viewport-select sofa"),
+    EXPECT_EQ(Console.Execute("viewport-select StaticMeshActor_15"),
               "Viewport selection: Sofa (StaticMeshActor_15).\nPanel: opens " + std::string(Site) +
                   "/go/product/ATB-SF-3300\n");
-    EXPECT_EQ(Console.Execute("viewport-select StaticMeshActor_15"),
-              "Viewport selection: Sofa (StaticMeshActor_15).\nPanel: unchanged.\n");
     const std::string Ambiguous = Console.Execute("viewport-select Sofa \"Dining Chair\"");
     EXPECT_TRUE(Ambiguous.starts_with("\"Dining Chair\" names 4 actors: StaticMeshActor_3 ")) << Ambiguous;
     EXPECT_EQ(Editor.GetSelectedActors().size(), 1u) << "a refused command leaves the selection alone";
     EXPECT_EQ(Console.Execute("viewport-select Nobody"),
               "No actor \"Nobody\" in the level (list shows them).\nPanel: unchanged.\n");
     EXPECT_TRUE(Console.Execute("viewport-select").starts_with("Viewport selection cleared.\n"));
-
-    EXPECT_EQ(Panel.Loads, std::vector<std::string>{std::string(Site) + "/go/product/ATB-SF-3300"});
 }
 
-TEST_F(FOrvServeSmartPanelTest, BrowserSelectionAndAltRWithBrowserFocusShowTheFinish)
+TEST_F(FOrvServeSmartPanelTest, BrowserSelectionFindsAssetsByNameOrPathAndAltRWithBrowserFocusShowsTheFinish)
 {
     const std::string Ambiguous = Console.Execute("browser-select SM_Chair");
     EXPECT_EQ(Ambiguous, "\"SM_Chair\" names 2 assets: /Game/ORVESSA/FormaNova/Arco/Meshes/SM_Chair.SM_Chair "
@@ -69,13 +65,6 @@ TEST_F(FOrvServeSmartPanelTest, BrowserSelectionAndAltRWithBrowserFocusShowTheFi
     EXPECT_EQ(Console.Execute("focus BROWSER"), "Keyboard focus: Content Browser.\n");
     EXPECT_EQ(Console.Execute("alt-r"),
               "Alt+R pressed.\nPanel: opens " + std::string(Site) + "/go/finish/FIN-OAK-NAT\n");
-    EXPECT_TRUE(
-        Log.Contains(EOrvLogVerbosity::Display, "OrvInputProcessor: Alt+R detected! (Key=R, ByChar=0)"));
-
-    EXPECT_EQ(Console.Execute("focus viewport"), "Keyboard focus: viewport.\n");
-    Console.Execute("alt-r");
-    EXPECT_TRUE(Log.Contains(EOrvLogVerbosity::Warning,
-                             "OrvSmartPanel: Alt+R pressed but no Orv asset selected in viewport"));
     EXPECT_EQ(Console.Execute("focus desk"), "Usage: focus viewport|browser\n");
 }
 

@@ -51,13 +51,10 @@ TEST_F(FOrvInputKeyPredicateTest, LogsRKeysAndAltChordsWithAPrintableCharacterOr
     FOrvInputKeyPredicate::IsAltR(FOrvKeyEvent{"R", 82, 'r', false, true, false}, Log);
     FOrvInputKeyPredicate::IsAltR(FOrvKeyEvent{"F4", 115, 0, true, false, false}, Log);
 
-    ASSERT_EQ(Log.Lines.size(), 2u);
-    EXPECT_TRUE(
-        Log.Contains(EOrvLogVerbosity::Log,
-                     "OrvInputProcessor: Key=R (Code=82, Char=114 'r') Modifiers: Alt=0 Ctrl=1 Shift=0"));
-    EXPECT_TRUE(
-        Log.Contains(EOrvLogVerbosity::Log,
-                     "OrvInputProcessor: Key=F4 (Code=115, Char=0 '?') Modifiers: Alt=1 Ctrl=0 Shift=0"));
+    EXPECT_EQ(Log.Transcript(),
+              (std::vector<std::string>{
+                  "Log: OrvInputProcessor: Key=R (Code=82, Char=114 'r') Modifiers: Alt=0 Ctrl=1 Shift=0",
+                  "Log: OrvInputProcessor: Key=F4 (Code=115, Char=0 '?') Modifiers: Alt=1 Ctrl=0 Shift=0"}));
 }
 
 TEST_F(FOrvInputKeyPredicateTest, AltRRunsTheDetailsActionAndIsConsumedOnlyWithASmartPanel)

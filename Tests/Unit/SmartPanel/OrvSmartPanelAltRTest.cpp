@@ -33,7 +33,7 @@ TEST_F(FOrvSmartPanelAltRTest, ViewportBranchLogsEachMeshItLooksAt)
 
     SmartPanel.ViewProductDetails();
 
-    const FLines Lines = Transcript(First);
+    const FLines Lines = Log.Transcript(First);
     const auto Has = [&Lines](const std::string& Line)
     { return std::find(Lines.begin(), Lines.end(), Line) != Lines.end(); };
     EXPECT_EQ(Lines.front(), "Display: OrvSmartPanel: Alt+R pressed!");
@@ -43,13 +43,13 @@ TEST_F(FOrvSmartPanelAltRTest, ViewportBranchLogsEachMeshItLooksAt)
     EXPECT_TRUE(Has("Display: OrvSmartPanel: Alt+R - Found ProductData, ProductID: OLD-1, IsValid: 0"));
     EXPECT_TRUE(Has("Display: OrvSmartPanel: Alt+R - Found ProductData, ProductID: VASE-1, IsValid: 1"));
     EXPECT_EQ(Lines.back(), "Display: OrvSmartPanel: Alt+R - Navigating to product VASE-1");
-    EXPECT_EQ(Problems(First),
+    EXPECT_EQ(Log.Problems(First),
               FLines{"Warning: OrvSmartPanel: Alt+R - No ProductData found on mesh SM_Plinth"});
     EXPECT_EQ(Panel.Loads, FLines{ProductPage("VASE-1")});
 
     SelectActors({"Sun"});
     SmartPanel.ViewProductDetails();
-    EXPECT_EQ(Problems().back(),
+    EXPECT_EQ(Log.Problems().back(),
               "Warning: OrvSmartPanel: Alt+R pressed but no Orv asset selected in viewport");
 }
 
@@ -80,7 +80,7 @@ TEST_F(FOrvSmartPanelAltRTest, ContentBrowserBranchNamesWhatItFindsAndWhatIsMiss
 
     SmartPanel.ViewProductDetails();
 
-    const FLines Lines = Transcript(First);
+    const FLines Lines = Log.Transcript(First);
     const FLines Expected{
         "Display: OrvSmartPanel: Alt+R - Checking Content Browser, 4 assets selected",
         "Display: OrvSmartPanel: Alt+R - Asset: T_Oak, Class: Texture2D",
@@ -95,7 +95,7 @@ TEST_F(FOrvSmartPanelAltRTest, ContentBrowserBranchNamesWhatItFindsAndWhatIsMiss
     EXPECT_TRUE(std::find(Lines.begin(), Lines.end(),
                           "Display: OrvSmartPanel: Alt+R - Found ProductID: CHAIR-1") != Lines.end());
     EXPECT_EQ(Lines.back(), "Display: OrvSmartPanel: Alt+R - Navigating to product CHAIR-1");
-    EXPECT_EQ(Problems(First),
+    EXPECT_EQ(Log.Problems(First),
               (FLines{"Warning: OrvSmartPanel: Alt+R - No Orv_FinishID parameter found on material",
                       "Warning: OrvSmartPanel: Alt+R - No OrvProductData found on static mesh"}));
 }
@@ -108,7 +108,7 @@ TEST_F(FOrvSmartPanelAltRTest, WarnsForAssetsThatDoNotLoadAndWhenNothingIsFound)
     SelectAssets({"SM_Deleted"}, "/Script/Engine.StaticMesh");
     SmartPanel.ViewProductDetails();
 
-    EXPECT_EQ(Problems(),
+    EXPECT_EQ(Log.Problems(),
               (FLines{"Warning: OrvSmartPanel: Alt+R - Failed to load material instance",
                       "Warning: OrvSmartPanel: Alt+R pressed but no Orv asset selected in Content Browser",
                       "Warning: OrvSmartPanel: Alt+R - Failed to load static mesh",
@@ -122,6 +122,6 @@ TEST_F(FOrvSmartPanelAltRTest, WithoutAnEditorOnlyTheErrorFollowsTheKey)
 
     SmartPanel.ViewProductDetails();
 
-    EXPECT_EQ(Transcript(), (FLines{"Display: OrvSmartPanel: Alt+R pressed!",
-                                    "Error: OrvSmartPanel: Alt+R - GEditor is null"}));
+    EXPECT_EQ(Log.Transcript(), (FLines{"Display: OrvSmartPanel: Alt+R pressed!",
+                                        "Error: OrvSmartPanel: Alt+R - GEditor is null"}));
 }

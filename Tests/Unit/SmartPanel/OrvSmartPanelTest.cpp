@@ -15,7 +15,7 @@ TEST_F(FOrvSmartPanelFollowsViewportTest, SelectedProductOpensItsPageWithTheLook
     SelectActors({"Sofa"});
 
     EXPECT_EQ(Panel.Loads, FLines{ProductPage("SOFA-1")});
-    EXPECT_EQ(Transcript(),
+    EXPECT_EQ(Log.Transcript(),
               (FLines{
                   "Display: OrvSmartPanel: Auto-Detect enabled",
                   "Display: OrvSmartPanel: Auto-navigate triggered - Viewport selection changed",
@@ -77,15 +77,15 @@ TEST_F(FOrvSmartPanelLeavesThePageAloneTest, WhileAutoDetectIsOffThePanelIsClose
     // After start-up auto-detect is off: selections only log, and only verbosely.
     SelectActors({"Sofa"});
     SelectAssets({"MI_Oak"});
-    EXPECT_EQ(Transcript(),
+    EXPECT_EQ(Log.Transcript(),
               FLines{"Verbose: OrvSmartPanel: Selection changed but auto-navigate is disabled"});
 
     SmartPanel.SetAutoDetect(true);
     Panel.bOpen = false;
     SelectActors({"Sofa"});
     SelectAssets({"SM_Sofa"});
-    EXPECT_EQ(Transcript(1), (FLines{"Display: OrvSmartPanel: Auto-Detect enabled",
-                                     "Verbose: OrvSmartPanel: Selection changed but panel is not open"}));
+    EXPECT_EQ(Log.Transcript(1), (FLines{"Display: OrvSmartPanel: Auto-Detect enabled",
+                                         "Verbose: OrvSmartPanel: Selection changed but panel is not open"}));
 
     // Before the editor engine exists the handler says nothing at all.
     Panel.bOpen = true;
@@ -105,7 +105,7 @@ TEST_F(FOrvSmartPanelToolbarTest, CopyUrlCopiesWhatThePanelShowsAndTheToggleSays
     SmartPanel.SetAutoDetect(false);
 
     EXPECT_EQ(Clipboard.Copies, FLines{"https://site.test/go/product/SOFA-1"});
-    EXPECT_EQ(Transcript(),
+    EXPECT_EQ(Log.Transcript(),
               (FLines{"Display: OrvSmartPanel: Copied URL to clipboard: https://site.test/go/product/SOFA-1",
                       "Display: OrvSmartPanel: Auto-Detect enabled",
                       "Display: OrvSmartPanel: Auto-Detect disabled"}));

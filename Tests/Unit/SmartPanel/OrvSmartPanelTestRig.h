@@ -110,32 +110,6 @@ namespace OrvWebBridge
             return std::string(Site) + "/go/finish/" + Id;
         }
 
-        /** Every logged line as "Verbosity: message", from line First on. */
-        std::vector<std::string> Transcript(std::size_t First = 0) const
-        {
-            std::vector<std::string> Lines;
-            for (std::size_t Index = First; Index < Log.Lines.size(); ++Index)
-            {
-                Lines.push_back(std::string(OrvLogVerbosityName(Log.Lines[Index].Verbosity)) + ": " +
-                                Log.Lines[Index].Message);
-            }
-            return Lines;
-        }
-
-        /** The warnings and errors among them. */
-        std::vector<std::string> Problems(std::size_t First = 0) const
-        {
-            std::vector<std::string> Lines;
-            for (const std::string& Line : Transcript(First))
-            {
-                if (Line.starts_with("Warning: ") || Line.starts_with("Error: "))
-                {
-                    Lines.push_back(Line);
-                }
-            }
-            return Lines;
-        }
-
         FOrvMemoryEditor Editor;
         FOrvFakeWebPanel Panel;
         FOrvRecordingLog Log;
