@@ -74,25 +74,6 @@ namespace OrvWebBridge
         Logf(EOrvLogVerbosity::Display, "OrvSmartPanel: Copied URL to clipboard: %s", Url.c_str());
     }
 
-    void FOrvSmartPanel::NavigateToProduct(FOrvMeshRef Mesh)
-    {
-        const std::optional<FOrvProductTag> Data = GetProductDataFromMesh(Mesh);
-        if (Data && Data->bIsValid && !FOrvStrings::EqualsIgnoreCase(Data->ProductID, LastDisplayedId))
-        {
-            ShowProduct(Data->ProductID);
-        }
-    }
-
-    void FOrvSmartPanel::NavigateToFinish(const FOrvAssetData& MaterialInstance)
-    {
-        const std::optional<std::string> FinishId =
-            Ports.Assets.LoadMaterialInstanceMetaData(MaterialInstance, FinishIdKey);
-        if (FinishId && !FinishId->empty() && !FOrvStrings::EqualsIgnoreCase(*FinishId, LastDisplayedId))
-        {
-            ShowFinish(*FinishId);
-        }
-    }
-
     std::optional<FOrvProductTag> FOrvSmartPanel::GetProductDataFromMesh(FOrvMeshRef Mesh)
     {
         if (!Mesh || !Ports.Meshes.IsMeshAlive(Mesh))

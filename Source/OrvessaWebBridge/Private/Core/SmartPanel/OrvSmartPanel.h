@@ -69,12 +69,6 @@ namespace OrvWebBridge
         /** "Copy URL": the panel's current URL to the clipboard. */
         void CopyUrl();
 
-        /** Opens the product page of the mesh's product, unless it is the one shown. */
-        void NavigateToProduct(FOrvMeshRef Mesh);
-
-        /** Opens the finish page of the material instance's finish id, unless it is the one shown. */
-        void NavigateToFinish(const FOrvAssetData& MaterialInstance);
-
         /** The first UOrvProductData among the mesh's asset user data (whether valid or not). */
         std::optional<FOrvProductTag> GetProductDataFromMesh(FOrvMeshRef Mesh);
 
