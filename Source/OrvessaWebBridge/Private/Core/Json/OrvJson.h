@@ -33,7 +33,7 @@ namespace OrvWebBridge
          * The one way text becomes JSON, for every reader of the core and the host. Parses without
          * recursion, so hostile nesting cannot exhaust the stack, and refuses nesting deeper than MaxDepth,
          * so nothing that walks the value later recurses deeper than that. Numbers are read correctly
-         * rounded, as the engine's strtod-based reader reads them, so an id or a coordinate written back
+         * rounded (as strtod reads them), so an id or a coordinate written back
          * in its shortest form is the number that came in. False on failure, with the reason in OutError
          * when given.
          */
