@@ -33,9 +33,8 @@ namespace OrvWebBridge
          * The one way text becomes JSON, for every reader of the core and the host. Parses without
          * recursion, so hostile nesting cannot exhaust the stack, and refuses nesting deeper than MaxDepth,
          * so nothing that walks the value later recurses deeper than that. Numbers are read correctly
-         * rounded (as strtod reads them), so an id or a coordinate written back
-         * in its shortest form is the number that came in. False on failure, with the reason in OutError
-         * when given.
+         * rounded (as strtod reads them), so an id or a coordinate written back in its shortest form is
+         * the number that came in. False on failure, with the reason in OutError when given.
          */
         static bool Parse(std::string_view Text, rapidjson::Document& Out,
                           FOrvJsonParseError* OutError = nullptr, FOrvJsonParseOptions Options = {});
