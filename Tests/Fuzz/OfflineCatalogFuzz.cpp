@@ -1,6 +1,7 @@
 // Catalogue text, read two ways: as an offline catalogue file (which then answers a batch request for
 // its own ids) and as a catalogue service's batch answer. Always: a catalogue or an error naming the
 // file; answers the core reads into valid UTF-8 product records, one per requested id.
+#include "Core/Common/OrvUtf8.h"
 #include "Core/Json/OrvJson.h"
 #include "Core/Json/OrvJsonWriter.h"
 #include "Core/Outliner/OrvOutlinerBatchAnswer.h"
@@ -31,7 +32,8 @@ namespace
         }
     }
 
-    // The string ids of the records, as the batch request of a scan would list them, plus one unknown.
+    // The string ids of the records, as the batch request of a scan would list them, plus one unknown. The
+    // request is JSON, so ids that differ only in ill-formed bytes become one id there.
     std::string BatchRequestFor(const rapidjson::Value& Parsed, std::set<std::string>& OutIds)
     {
         const rapidjson::Value* List =
@@ -43,7 +45,8 @@ namespace
         for (const rapidjson::Value& Record : List->GetArray())
         {
             std::string Id;
-            if (FOrvJson::TryGetStringField(Record, "id", Id) && OutIds.insert(Id).second)
+            if (FOrvJson::TryGetStringField(Record, "id", Id) &&
+                OutIds.insert(FOrvUtf8::MakeValid(Id)).second)
             {
                 Writer.String(Id);
             }
