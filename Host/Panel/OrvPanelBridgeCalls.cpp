@@ -68,16 +68,6 @@ namespace OrvWebBridge
             return Functions;
         }
 
-        std::string LowerCase(std::string_view Text)
-        {
-            std::string Lower(Text);
-            for (char& Char : Lower)
-            {
-                Char = (Char >= 'A' && Char <= 'Z') ? static_cast<char>(Char - 'A' + 'a') : Char;
-            }
-            return Lower;
-        }
-
         const char* JsonTypeName(const rapidjson::Value& Value)
         {
             switch (Value.GetType())
@@ -111,7 +101,7 @@ namespace OrvWebBridge
 
         std::string Signature(const FOrvBridgeFunction& Function)
         {
-            std::string Text = LowerCase(Function.Name) + "(";
+            std::string Text = FOrvStrings::ToLower(Function.Name) + "(";
             for (const char* Parameter : Function.Parameters)
             {
                 Text += (Text.back() == '(' ? "" : ", ") + std::string(Parameter);
@@ -125,7 +115,7 @@ namespace OrvWebBridge
         std::vector<std::string> Names;
         for (const FOrvBridgeFunction& Function : OrvBridgeFunctions())
         {
-            Names.push_back(LowerCase(Function.Name));
+            Names.push_back(FOrvStrings::ToLower(Function.Name));
         }
         return Names;
     }
@@ -141,9 +131,9 @@ namespace OrvWebBridge
             return Refuse(400, "a bridge call is a JSON object {\"function\": name, \"args\": [arguments]}");
         }
         const auto& Functions = OrvBridgeFunctions();
-        const auto Function =
-            std::find_if(Functions.begin(), Functions.end(),
-                         [&](const FOrvBridgeFunction& Each) { return LowerCase(Each.Name) == Name; });
+        const auto Function = std::find_if(Functions.begin(), Functions.end(),
+                                           [&](const FOrvBridgeFunction& Each)
+                                           { return FOrvStrings::ToLower(Each.Name) == Name; });
         if (Function == Functions.end())
         {
             return Refuse(404, "OrvBridge has no function \"" + Name + "\"");

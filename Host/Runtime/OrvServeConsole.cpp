@@ -79,9 +79,7 @@ namespace OrvWebBridge
         {
             return {};
         }
-        std::string Name = Words.front();
-        std::transform(Name.begin(), Name.end(), Name.begin(),
-                       [](unsigned char Char) { return static_cast<char>(std::tolower(Char)); });
+        const std::string Name = FOrvStrings::ToLower(Words.front());
         const auto Found = Commands.find(Name);
         if (Found == Commands.end())
         {

@@ -120,6 +120,17 @@ namespace OrvWebBridge
         return Result;
     }
 
+    std::string FOrvStrings::ToLower(std::string_view Text)
+    {
+        std::string Lower(Text);
+        for (char& Character : Lower)
+        {
+            Character =
+                (Character >= 'A' && Character <= 'Z') ? static_cast<char>(Character - 'A' + 'a') : Character;
+        }
+        return Lower;
+    }
+
     std::string_view FOrvStrings::Trim(std::string_view Text)
     {
         const auto IsBlank = [](char Character)

@@ -46,6 +46,9 @@ namespace OrvWebBridge
         /** Replaces every occurrence of From (exact case) with To. */
         static std::string ReplaceAll(std::string_view Text, std::string_view From, std::string_view To);
 
+        /** Text with A-Z turned to a-z (ASCII only, as names and commands are). */
+        static std::string ToLower(std::string_view Text);
+
         /** Removes spaces, tabs and line ends at both ends. */
         static std::string_view Trim(std::string_view Text);
     };
